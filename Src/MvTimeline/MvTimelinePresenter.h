@@ -1,0 +1,109 @@
+#pragma once
+
+#include "MvTimelineGlobal.h"
+#include "MvPresenter.h"
+#include "MvVBLModelGlobal.h"
+
+#include <QList>
+#include <QRect>
+#include <QScopedPointer>
+#include <QString>
+
+class IMvClip;
+class IMvTimeline;
+class IMvTrack;
+class MvZoomSlider;
+class MvTimelinePresenterPrivate;
+
+// The presenter of one edited timeline and the entry point of the library. The host creates one
+// per timeline, derives from it where it must supply defaults (track heights, action refresh,
+// track selection) and calls its commands from menus, shortcuts and the timeline widgets.
+class MVTIMELINE_EXPORT MvTimelinePresenter : public MvPresenter
+{
+    Q_OBJECT
+
+public:
+    // Row sizes and fixed tracks of the hosting view. Only the two fixed-track counts matter to
+    // this library; the other fields are read by the host.
+    struct MVTIMELINE_EXPORT MvTimelineViewConfig
+    {
+        quint8 fixedTrackCountFirst = 1;  // picture tracks that always stay
+        quint8 fixedTrackCountSecond = 1; // audio tracks that always stay
+        quint8 sizeParam = 55;
+        qint32 widthParam = 128;
+        bool flagFirst = true;
+        bool flagSecond = false;
+
+        MvTimelineViewConfig() = default;
+        MvTimelineViewConfig(const MvTimelineViewConfig&) = default;
+        MvTimelineViewConfig(MvTimelineViewConfig&&) = default;
+        MvTimelineViewConfig& operator=(const MvTimelineViewConfig&) = default;
+        MvTimelineViewConfig& operator=(MvTimelineViewConfig&&) = default;
+
+        int fixedTrackCount() const;
+        void clearFixedTrack();
+    };
+
+    // The host gives the modes their meaning; the presenter only keeps the value.
+    enum MvTimelineModeType : qint32 { NormalMode = 0, TrimMode = 1, BladeMode = 2, HandMode = 3 };
+    Q_ENUM(MvTimelineModeType)
+
+    MvTimelinePresenter(QObject* parent, IMvTimeline* timeline);
+    ~MvTimelinePresenter() override;
+
+    virtual bool hasEmptyCap();
+    virtual void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);
+    virtual void setZoomSlider(MvZoomSlider* slider);
+    virtual void updateAction();
+
+    IMvTimeline* timeline() const;
+    MvTimelineViewConfig* config() const;
+
+    MvTimelineModeType modeType() const;
+    void setModeType(MvTimelineModeType mode);
+
+    bool actionEnabled() const;
+    void setActionEnabled(bool enabled);
+    bool canUpdateAction() const;
+    void setUpdateActionEnabled(bool enabled);
+
+    void pauseMediaPlayer();
+    void pauseMediaPlayerWithSync();
+    bool isMediaPlayerPlaying();
+    void seek(qint64 frame);
+
+    void hidePropertyPanel();
+    void checkHidePropertyPanel();
+
+    void showEmptyClip(qint64 x, qint64 y, int width, int height);
+    void hideEmptyClip();
+    bool emptyClipItemVisible();
+    QRect emptyClipRect();
+    bool deleteEmptyClipItem(bool arg);
+
+Q_SIGNALS:
+    void sigClipSelectedChanged();
+    void sigClipReplaced();
+    void sigActionStatusChanged();
+    void sigDeleteEmptyClipItem(bool);
+    void sigEmptyClipItemStateChanged(bool isShow);
+    void sigModeChanged();
+
+protected:
+    virtual int getTrackHeight(MVVBLMODEL::MvTrackSizePolicy policy);
+    virtual IMvTrack* getSelectedTracked();
+    virtual MVVBLMODEL::MvTrackType getSelectedTrackType();
+    virtual qint64 getDefaultFreezeFrameDuration();
+    virtual int calcDetachAudioTrackIndex(IMvClip* clip);
+
+    void stopMediaPlayer();
+    void seekAfterPause();
+    void switchMediaPlayerToTimeline();
+
+private:
+    Q_DECLARE_PRIVATE(MvTimelinePresenter)
+    Q_DISABLE_COPY(MvTimelinePresenter)
+    QScopedPointer<MvTimelinePresenterPrivate> d_ptr;
+    QString m_name;
+    QRect m_emptyClipRect;
+};

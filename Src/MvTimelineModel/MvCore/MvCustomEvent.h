@@ -1,0 +1,70 @@
+#pragma once
+
+#include "MvCoreGlobal.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+
+#include <functional>
+
+// One application-wide notification: a name and its values, in the order the sender gives them.
+class MVCORE_EXPORT MvCustomEventImp
+{
+public:
+    MvCustomEventImp(const QString& name, const QVariantList& values = QVariantList());
+
+    QString name() const { return m_name; }
+    QVariantList values() const { return m_values; }
+    QVariant value(int index) const { return m_values.value(index); }
+    // The first value as an int, the common case of "NotifyAdjustPropertyTimeLine" and friends.
+    int intValue() const { return m_values.value(0).toInt(); }
+
+private:
+    QString m_name;
+    QVariantList m_values;
+};
+
+class MvCustomEventListener;
+
+// Delivers custom events to the listeners registered for their name, in registration order,
+// until one consumes the event. GUI thread only.
+class MVCORE_EXPORT MvCustomEventDispatcher
+{
+public:
+    static MvCustomEventDispatcher& instance();
+
+    bool sendEvent(const MvCustomEventImp& event);
+    bool sendEvent(const QString& name, const QVariantList& values = QVariantList());
+
+    int listenerCount(const QString& name) const;
+
+private:
+    friend class MvCustomEventListener;
+    MvCustomEventDispatcher() = default;
+    void addListener(MvCustomEventListener* listener);
+    void removeListener(MvCustomEventListener* listener);
+
+    QList<MvCustomEventListener*> m_listeners;
+};
+
+// Listens for one event name on behalf of its parent object; goes away with it.
+class MVCORE_EXPORT MvCustomEventListener : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The handler returns true when it consumed the event.
+    using Handler = std::function<bool(const MvCustomEventImp&)>;
+
+    MvCustomEventListener(QObject* parent, const QString& eventName, Handler handler);
+    ~MvCustomEventListener() override;
+
+    QString eventName() const { return m_eventName; }
+    bool handle(const MvCustomEventImp& event);
+
+private:
+    QString m_eventName;
+    Handler m_handler;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "MvVBLModelGlobal.h"
+
+#include <QList>
+
+class IMvClip;
+
+// One track row. Picture rows come first (index 0 is the top row), audio rows after them.
+class MVVBLMODEL_EXPORT IMvTrack
+{
+public:
+    virtual ~IMvTrack();
+
+    virtual int index() const = 0;
+    virtual MVVBLMODEL::MvTrackType type() const = 0;
+    virtual bool isLocked() const = 0;
+    virtual void setLocked(bool locked) = 0;
+    virtual int height() const = 0;
+    virtual void setHeight(int height) = 0;
+    // Clips ordered by start.
+    virtual QList<IMvClip*> clips() const = 0;
+};

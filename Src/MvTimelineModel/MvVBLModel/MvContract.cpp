@@ -1,0 +1,50 @@
+// Out-of-line destructors of the contract's interfaces, so each has one home for its vtable.
+#include "IMvAbstractClip.h"
+#include "IMvClipEditService.h"
+#include "IMvClipItems.h"
+#include "IMvColorCompareService.h"
+#include "IMvKeyFrameSelector.h"
+#include "IMvMarker.h"
+#include "IMvSelection.h"
+#include "IMvTimeline.h"
+#include "IMvTimelinePlayhead.h"
+#include "IMvTimelineRenderService.h"
+#include "IMvTimelineRuler.h"
+#include "IMvTrack.h"
+#include "IMvUndoRedoService.h"
+
+IMvAbstractClip::~IMvAbstractClip() = default;
+IMvTransitionList::~IMvTransitionList() = default;
+IMvClipEditService::~IMvClipEditService() = default;
+IMvFreezeFrameList::~IMvFreezeFrameList() = default;
+IMvSmartKeyingNodes::~IMvSmartKeyingNodes() = default;
+IMvColorCompareService::~IMvColorCompareService() = default;
+IMvKeyFrameSelector::~IMvKeyFrameSelector() = default;
+IMvKeyFrameClipboard::~IMvKeyFrameClipboard() = default;
+IMvMarker::~IMvMarker() = default;
+IMvMarkerList::~IMvMarkerList() = default;
+IMvMarkerModel::~IMvMarkerModel() = default;
+IMvSelection::~IMvSelection() = default;
+IMvSubItemSelection::~IMvSubItemSelection() = default;
+IMvTimeline::~IMvTimeline() = default;
+IMvPlayheadEventObserver::~IMvPlayheadEventObserver() = default;
+IMvTimelinePlayhead::~IMvTimelinePlayhead() = default;
+IMvTimelineRenderEventObserver::~IMvTimelineRenderEventObserver() = default;
+IMvTimelineRenderService::~IMvTimelineRenderService() = default;
+IMvTimelineRulerEventObserover::~IMvTimelineRulerEventObserover() = default;
+IMvTimelineRuler::~IMvTimelineRuler() = default;
+IMvTrack::~IMvTrack() = default;
+IMvUndoRedoService::~IMvUndoRedoService() = default;
+
+MvUndoRedoCommander::MvUndoRedoCommander(IMvUndoRedoService* service, const QString& name, const QString& source)
+    : m_service(service)
+{
+    if (m_service)
+        m_service->beginStep(name, source);
+}
+
+MvUndoRedoCommander::~MvUndoRedoCommander()
+{
+    if (m_service)
+        m_service->endStep();
+}

@@ -1,0 +1,29 @@
+#include "MvModelMessages.h"
+
+MvSeekMessage::MvSeekMessage(qint64 frame, bool accurate)
+    : MvMessage(MVVBLMODEL::MessageId::Seek), m_frame(frame), m_accurate(accurate)
+{
+}
+
+const char* MvSeekMessage::typeName() const
+{
+    return "MvSeekMessage";
+}
+
+MvSeekAfterPauseMessage::MvSeekAfterPauseMessage() : MvMessage(MVVBLMODEL::MessageId::SeekAfterPause) { }
+
+const char* MvSeekAfterPauseMessage::typeName() const
+{
+    return "MvSeekAfterPauseMessage";
+}
+
+MvPropertyPanelShowMessage2::MvPropertyPanelShowMessage2(
+    MVVBLMODEL::MvClipType clipType, MVVBLMODEL::MvPropertyType panelType)
+    : MvMessage(MVVBLMODEL::MessageId::ShowPropertyPanel), m_clipType(clipType), m_panelType(panelType)
+{
+}
+
+const char* MvPropertyPanelShowMessage2::typeName() const
+{
+    return "MvPropertyPanelShowMessage2";
+}

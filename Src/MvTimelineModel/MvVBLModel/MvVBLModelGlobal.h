@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#if defined(MVVBLMODEL_LIBRARY)
+#define MVVBLMODEL_EXPORT Q_DECL_EXPORT
+#else
+#define MVVBLMODEL_EXPORT Q_DECL_IMPORT
+#endif
+
+namespace MVVBLMODEL {
+
+// Kind of an item placed on a track.
+using MvClipType = int;
+constexpr MvClipType ClipType_Audio = 1;
+constexpr MvClipType ClipType_Video = 2;
+constexpr MvClipType ClipType_VideoWithAudio = 3;
+constexpr MvClipType ClipType_Image = 4;
+constexpr MvClipType ClipType_Text = 5;
+constexpr MvClipType ClipType_Sticker = 6;
+constexpr MvClipType ClipType_Effect = 7;
+constexpr MvClipType ClipType_Filter = 8;
+constexpr MvClipType ClipType_Adjustment = 9;
+constexpr MvClipType ClipType_Placeholder = 10;
+constexpr MvClipType ClipType_Shape = 11;
+constexpr MvClipType ClipType_Transition = 12;
+constexpr MvClipType ClipType_Subtitle = 13;
+constexpr MvClipType ClipType_Title = 14;
+constexpr MvClipType ClipType_Compound = 15;
+constexpr MvClipType ClipType_ScreenRecording = 16;
+constexpr MvClipType ClipType_Music = 17;
+constexpr MvClipType ClipType_SoundEffect = 18;
+
+inline bool isAudioClipType(MvClipType type)
+{
+    return type == ClipType_Audio || type == ClipType_Music || type == ClipType_SoundEffect;
+}
+
+// Kind of a track row. Picture tracks hold everything that is seen, audio tracks what is heard.
+using MvTrackType = int;
+constexpr MvTrackType TrackType_Audio = 1;
+constexpr MvTrackType TrackType_Picture = 3;
+
+// Row height class of a track: 0 small, 1 normal, 2 large.
+using MvTrackSizePolicy = int;
+
+// Player state reported to the virtual playhead.
+using MvPlayState = int;
+constexpr MvPlayState PlayState_Stopped = 0;
+constexpr MvPlayState PlayState_Playing = 1;
+constexpr MvPlayState PlayState_Paused = 2;
+constexpr MvPlayState PlayState_Finished = 3;
+
+// Property panel group.
+using MvPropertyType = int;
+
+// Groups of keyframed properties.
+constexpr int PropertyGroup_Transform = 4096;
+constexpr int PropertyGroup_AudioVolume = 4110;
+
+struct MvFrameRate
+{
+    int numerator = 30;
+    int denominator = 1;
+
+    double fps() const { return denominator > 0 ? double(numerator) / denominator : 0.0; }
+    bool operator==(const MvFrameRate& other) const
+    {
+        return numerator == other.numerator && denominator == other.denominator;
+    }
+};
+
+// One keyframed property of an effect.
+struct MvEffectPropertyBaseInfo
+{
+    int group = 0;
+    QString name;
+    bool flag = false;
+    int index = -1;
+    int propertyId = 0;
+
+    bool operator==(const MvEffectPropertyBaseInfo& other) const
+    {
+        return group == other.group && name == other.name && flag == other.flag && index == other.index
+            && propertyId == other.propertyId;
+    }
+};
+
+// Identifiers of the messages the timeline sends to its scene.
+namespace MessageId {
+constexpr int GroupQuestionBeforeSplit = 1010; // MvDataMessage; answer: QVariantList{bool proceed, bool ungroup}
+constexpr int SwitchPlayerToTimeline = 7005;   // MvDataMessage carrying the IMvTimeline*
+constexpr int EffectPasted = 7009;
+constexpr int PausePlayer = 7012;              // bare id
+constexpr int StopPlayer = 7014;               // MvMessage
+constexpr int IsPlayerPlaying = 7033;          // MvQueryMessage
+constexpr int PausePlayerWithSync = 7036;      // bare id
+constexpr int Seek = 7040;                     // MvSeekMessage
+constexpr int SeekAfterPause = 7041;           // MvSeekAfterPauseMessage
+constexpr int HidePropertyPanel = 9006;        // MvMessage
+constexpr int ShowPropertyPanel = 9040;        // MvPropertyPanelShowMessage2
+}
+
+} // namespace MVVBLMODEL

@@ -1,0 +1,35 @@
+# Compile settings shared by every target of the project.
+function(mv_set_compile_options target)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS
+        QT_NO_CAST_FROM_ASCII
+        QT_USE_QSTRINGBUILDER
+        QT_NO_URL_CAST_FROM_STRING
+        QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+        if(MV_WERROR)
+            target_compile_options(${target} PRIVATE -Werror)
+        endif()
+    elseif(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /permissive-)
+    endif()
+endfunction()
+
+# A shared library of the project, with its export name Mv::<exportName> and its headers
+# installed under include/<folder>.
+function(mv_install_library target exportName folder)
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exportName})
+    add_library(Mv::${exportName} ALIAS ${target})
+    install(TARGETS ${target} EXPORT MvTimelineTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    get_target_property(sources ${target} SOURCES)
+    foreach(file IN LISTS sources)
+        if(file MATCHES "\\.h$" AND NOT file MATCHES "_p\\.h$")
+            get_filename_component(subdir ${file} DIRECTORY)
+            install(FILES ${file} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder}/${subdir})
+        endif()
+    endforeach()
+endfunction()
