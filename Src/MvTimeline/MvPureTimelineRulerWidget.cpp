@@ -10,7 +10,7 @@
 #include <algorithm>
 
 MvPureTimelineRulerWidgetPrivate::MvPureTimelineRulerWidgetPrivate(MvPureTimelineRulerWidget* q)
-    : ruler(IMvTimelineRuler::createInstance()), q_ptr(q), target(this), gesture(new MvRulerGesture(q, &target)),
+    : ruler(IMvTimelineRuler::createInstance()), q_ptr(q), target(this), gesture(nullptr),
       eventFilterMgr(new MvEventFilterManager)
 {
     ruler->addObserver(this);
@@ -20,8 +20,11 @@ MvPureTimelineRulerWidgetPrivate::~MvPureTimelineRulerWidgetPrivate()
 {
     ruler->removeObserver(this);
     delete ruler;
-    // The gesture and its timer refer to this object; they go before it does.
-    delete gesture;
+    // The gesture and its timer refer to this object; they go before it does. Its removal is an
+    // event of the widget, which must not find it half destroyed.
+    MvRulerGesture* doomed = gesture;
+    gesture = nullptr;
+    delete doomed;
     delete eventFilterMgr;
 }
 
@@ -102,6 +105,9 @@ void MvPureTimelineRulerWidgetPrivate::GestureTarget::moveCurrentFrameToCenter()
 MvPureTimelineRulerWidget::MvPureTimelineRulerWidget(QWidget* parent)
     : MvWidget(parent), d_ptr(new MvPureTimelineRulerWidgetPrivate(this))
 {
+    Q_D(MvPureTimelineRulerWidget);
+    // Made once the private object exists: adding a child already sends this widget an event.
+    d->gesture = new MvRulerGesture(this, &d->target);
     setAttribute(Qt::WA_MouseTracking);
     // The property panel's timeline zoom control speaks through this event.
     new MvCustomEventListener(this, QStringLiteral("NotifyAdjustPropertyTimeLine"),
@@ -222,7 +228,7 @@ bool MvPureTimelineRulerWidget::isHintRulerHandle(const QPoint& pos)
 bool MvPureTimelineRulerWidget::event(QEvent* event)
 {
     Q_D(MvPureTimelineRulerWidget);
-    if (d->gesture->routeEvent(d->eventFilterMgr, event))
+    if (d && d->gesture && d->gesture->routeEvent(d->eventFilterMgr, event))
         return true;
     return MvWidget::event(event);
 }

@@ -6,14 +6,17 @@
 #include <QWheelEvent>
 
 MvTimelineRulerWidgetPrivate::MvTimelineRulerWidgetPrivate(MvTimelineRulerWidget* q)
-    : q_ptr(q), gesture(new MvRulerGesture(q, this)), eventFilterMgr(new MvEventFilterManager)
+    : q_ptr(q), gesture(nullptr), eventFilterMgr(new MvEventFilterManager)
 {
 }
 
 MvTimelineRulerWidgetPrivate::~MvTimelineRulerWidgetPrivate()
 {
-    // The gesture and its timer refer to this object; they go before it does.
-    delete gesture;
+    // The gesture and its timer refer to this object; they go before it does. Its removal is an
+    // event of the widget, which must not find it half destroyed.
+    MvRulerGesture* doomed = gesture;
+    gesture = nullptr;
+    delete doomed;
     delete eventFilterMgr;
 }
 
@@ -70,6 +73,9 @@ void MvTimelineRulerWidgetPrivate::moveCurrentFrameToCenter()
 MvTimelineRulerWidget::MvTimelineRulerWidget(MvTimelineRulerPresenter* presenter, QWidget* parent)
     : MvWidget(parent), d_ptr(new MvTimelineRulerWidgetPrivate(this))
 {
+    Q_D(MvTimelineRulerWidget);
+    // Made once the private object exists: adding a child already sends this widget an event.
+    d->gesture = new MvRulerGesture(this, d);
     setMouseTracking(true);
     setPresenter(presenter);
 }
@@ -106,7 +112,7 @@ bool MvTimelineRulerWidget::IsHintRulerHandle(const QPoint& pos)
 bool MvTimelineRulerWidget::event(QEvent* event)
 {
     Q_D(MvTimelineRulerWidget);
-    if (d->gesture->routeEvent(d->eventFilterMgr, event))
+    if (d && d->gesture && d->gesture->routeEvent(d->eventFilterMgr, event))
         return true;
     return MvWidget::event(event);
 }
