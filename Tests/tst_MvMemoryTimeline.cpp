@@ -2,6 +2,7 @@
 #include "Memory/MvCallJournal.h"
 #include "Memory/MvMemoryEditService.h"
 #include "Memory/MvMemoryPlayhead.h"
+#include "Memory/MvMemoryRenderService.h"
 #include "Memory/MvMemorySelection.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvMemoryUndoService.h"
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void observerMayLeaveDuringItsCallback();
     void virtualPlayheadKeepsTheRealFrame();
     void journalRecordsEdits();
+    void editsMarkTheirStretchForRendering();
     void invariantCheckerCatchesBrokenStates();
     void sampleProjectIsConsistent();
 };
@@ -565,6 +567,26 @@ void tst_MvMemoryTimeline::journalRecordsEdits()
     QCOMPARE(journal.entries(), (QStringList { QStringLiteral("model:beginDelete"), QStringLiteral("model:deleteClips"),
                                     QStringLiteral("model:moveClips") }));
     QCOMPARE(p.timeline->beginDeleteCount(), 1);
+}
+
+void tst_MvMemoryTimeline::editsMarkTheirStretchForRendering()
+{
+    Project p;
+    auto* render = dynamic_cast<MvMemoryRenderService*>(p.timeline->renderService());
+    QVERIFY(render);
+    QCOMPARE(p.timeline->renderService(), render);
+    render->markFinished(0, 249);
+    QVERIFY(p.timeline->trimEndToFrame(p.a, 49));
+    QCOMPARE(render->unfinishedFrames(), qint64(100));
+    render->markFinished(0, 249);
+    p.a->clipMarkers()->addMarker(5, Qt::red); // a marker changes nothing that is rendered
+    QVERIFY(p.timeline->undoRedoService()->undo());
+    QCOMPARE(render->unfinishedFrames(), qint64(0));
+    QVERIFY(p.timeline->undoRedoService()->undo());
+    QCOMPARE(render->unfinishedFrames(), qint64(100));
+    render->markFinished(0, 249);
+    QVERIFY(p.timeline->moveClips({ p.b }, { 1 }, 10, 2));
+    QCOMPARE(render->unfinishedFrames(), qint64(110)); // 150 .. 259
 }
 
 void tst_MvMemoryTimeline::invariantCheckerCatchesBrokenStates()

@@ -26,7 +26,7 @@ void MvMemoryUndoService::endStep()
     m_open = Step();
     m_redo.clear();
     if (m_changed)
-        m_changed();
+        m_changed(m_undo.last().before, m_undo.last().after);
 }
 
 bool MvMemoryUndoService::isStepOpen() const
@@ -52,7 +52,7 @@ bool MvMemoryUndoService::undo()
     m_restore(step.before);
     m_redo.append(step);
     if (m_changed)
-        m_changed();
+        m_changed(step.after, step.before);
     return true;
 }
 
@@ -64,7 +64,7 @@ bool MvMemoryUndoService::redo()
     m_restore(step.after);
     m_undo.append(step);
     if (m_changed)
-        m_changed();
+        m_changed(step.before, step.after);
     return true;
 }
 
