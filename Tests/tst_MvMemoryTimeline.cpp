@@ -1,3 +1,4 @@
+#include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
 #include "Memory/MvCallJournal.h"
 #include "Memory/MvMemoryEditService.h"
@@ -59,6 +60,21 @@ QString span(const IMvClip* clip)
         % QString::number(clip->end());
 }
 
+// A host that renders with its own service.
+class OwnRenderService : public IMvTimelineRenderService
+{
+public:
+    void addObserver(IMvTimelineRenderEventObserver*) override { }
+    void removeObserver(IMvTimelineRenderEventObserver*) override { }
+    void segments(QList<MvRenderSegment>& out) const override { out = { MvRenderSegment { 0, 9, 1 } }; }
+};
+
+class OwnRenderTimeline : public MvMemoryTimeline
+{
+protected:
+    IMvTimelineRenderService* createRenderService() override { return new OwnRenderService; }
+};
+
 class RecordingObserver : public IMvPlayheadEventObserver
 {
 public:
@@ -98,6 +114,7 @@ private Q_SLOTS:
     void virtualPlayheadKeepsTheRealFrame();
     void journalRecordsEdits();
     void editsMarkTheirStretchForRendering();
+    void subclassSuppliesItsOwnRenderService();
     void invariantCheckerCatchesBrokenStates();
     void sampleProjectIsConsistent();
 };
@@ -572,7 +589,7 @@ void tst_MvMemoryTimeline::journalRecordsEdits()
 void tst_MvMemoryTimeline::editsMarkTheirStretchForRendering()
 {
     Project p;
-    auto* render = dynamic_cast<MvMemoryRenderService*>(p.timeline->renderService());
+    MvMemoryRenderService* render = p.timeline->renderServiceImpl();
     QVERIFY(render);
     QCOMPARE(p.timeline->renderService(), render);
     render->markFinished(0, 249);
@@ -587,6 +604,20 @@ void tst_MvMemoryTimeline::editsMarkTheirStretchForRendering()
     render->markFinished(0, 249);
     QVERIFY(p.timeline->moveClips({ p.b }, { 1 }, 10, 2));
     QCOMPARE(render->unfinishedFrames(), qint64(110)); // 150 .. 259
+}
+
+void tst_MvMemoryTimeline::subclassSuppliesItsOwnRenderService()
+{
+    OwnRenderTimeline timeline;
+    timeline.addTrack(TrackType_Picture);
+    MvMemoryClip* clip = timeline.addClip(0, ClipType_Video, 0, 99, QStringLiteral("clip"));
+    QVERIFY(!timeline.renderServiceImpl());
+    QList<MvRenderSegment> segments;
+    timeline.renderService()->segments(segments);
+    QCOMPARE(segments.size(), 1);
+    QVERIFY(timeline.trimEndToFrame(clip, 50));
+    QVERIFY(timeline.undoRedoService()->undo());
+    QCOMPARE(clip->end(), qint64(99));
 }
 
 void tst_MvMemoryTimeline::invariantCheckerCatchesBrokenStates()

@@ -6,6 +6,7 @@
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
 #include "MvMemoryRenderService.h"
+#include "MvMemoryRuler.h"
 #include "MvMemorySelection.h"
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
@@ -331,6 +332,17 @@ IMvTimelineRenderService* MvMemoryTimeline::renderService() const
     if (!d->renderService)
         d->renderService = const_cast<MvMemoryTimeline*>(this)->createRenderService();
     return d->renderService;
+}
+
+MvMemoryRuler* MvMemoryTimeline::rulerImpl() const
+{
+    Q_D(const MvMemoryTimeline);
+    return dynamic_cast<MvMemoryRuler*>(d->ruler);
+}
+
+MvMemoryRenderService* MvMemoryTimeline::renderServiceImpl() const
+{
+    return dynamic_cast<MvMemoryRenderService*>(renderService());
 }
 
 IMvTimelineRenderService* MvMemoryTimeline::createRenderService()
