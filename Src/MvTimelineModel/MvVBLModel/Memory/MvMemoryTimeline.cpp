@@ -28,7 +28,9 @@ MvMemoryTimeline::Edit::~Edit()
     m_timeline->d_func()->undo->endStep();
 }
 
-MvMemoryTimelinePrivate::MvMemoryTimelinePrivate(MvMemoryTimeline* q, int timelineKind) : q_ptr(q), kind(timelineKind)
+MvMemoryTimelinePrivate::MvMemoryTimelinePrivate(MvMemoryTimeline* q, int timelineKind)
+    : q_ptr(q)
+    , kind(timelineKind)
 {
 }
 
@@ -183,11 +185,13 @@ void MvMemoryTimelinePrivate::build(const char* operation, const QString& stepNa
     undo->clear();
 }
 
-MvMemoryTimeline::MvMemoryTimeline(int kind) : d_ptr(new MvMemoryTimelinePrivate(this, kind))
+MvMemoryTimeline::MvMemoryTimeline(int kind)
+    : d_ptr(new MvMemoryTimelinePrivate(this, kind))
 {
     Q_D(MvMemoryTimeline);
     d->undo = new MvMemoryUndoService([d] { return d->capture(); },
-        [d](const MvMemoryModelState& state) { d->restore(state); }, [d](const MvMemoryModelState& from, const MvMemoryModelState& to) { d->modelChanged(from, to); });
+        [d](const MvMemoryModelState& state) { d->restore(state); },
+        [d](const MvMemoryModelState& from, const MvMemoryModelState& to) { d->modelChanged(from, to); });
     d->playhead = new MvMemoryPlayhead(this);
     d->selection = new MvMemorySelection(this);
     d->subItemSelection = new MvMemorySubItemSelection;
@@ -436,7 +440,8 @@ MvMemoryClip* MvMemoryTimeline::addClip(int trackIndex, MvClipType type, qint64 
     return clip;
 }
 
-MvMemoryTransition* MvMemoryTimeline::addTransition(MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name)
+MvMemoryTransition* MvMemoryTimeline::addTransition(
+    MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name)
 {
     Q_D(MvMemoryTimeline);
     if (!owner || owner->timeline() != this || !owner->isOnTimeline() || length < 1 || length > owner->frameCount())

@@ -1,7 +1,9 @@
 #include "MvMemoryUndoService.h"
 
 MvMemoryUndoService::MvMemoryUndoService(Capture capture, Restore restore, Changed changed)
-    : m_capture(std::move(capture)), m_restore(std::move(restore)), m_changed(std::move(changed))
+    : m_capture(std::move(capture))
+    , m_restore(std::move(restore))
+    , m_changed(std::move(changed))
 {
 }
 
