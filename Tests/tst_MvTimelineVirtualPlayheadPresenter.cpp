@@ -1,3 +1,4 @@
+#include "IMvMarker.h"
 #include "MvEditFixture.h"
 #include "MvTimelineVirtualPlayheadPresenter.h"
 
@@ -70,6 +71,7 @@ private Q_SLOTS:
     void playStateChanges_data();
     void playStateChanges();
     void playStateIgnoredWhileClosed();
+    void playStateReopensAfterAnEdit();
     void updateEnableClosesWhereNotAllowed_data();
     void updateEnableClosesWhereNotAllowed();
     void seekHoldsTheUnsettledFrame_data();
@@ -297,6 +299,23 @@ void tst_MvTimelineVirtualPlayheadPresenter::playStateIgnoredWhileClosed()
     QVERIFY(f.log.records().isEmpty());
 }
 
+void tst_MvTimelineVirtualPlayheadPresenter::playStateReopensAfterAnEdit()
+{
+    VirtualFixture f;
+    f.virtualPlayhead->open();
+    // An edit while open drops the model's virtual position; the next play state restores it.
+    f.timeline.timelineMarkers()->addMarker(10, Qt::red);
+    MvMemoryPlayhead* playhead = f.timeline.playheadImpl();
+    QVERIFY(playhead->needsVirtualReopen());
+    playhead->setSplitButtonVisible(true);
+
+    f.virtualPlayhead->playStateChanged(PlayState_Playing);
+
+    QVERIFY(!playhead->needsVirtualReopen());
+    QVERIFY(playhead->isVirtualOpen());
+    QVERIFY(!playhead->isSplitButtonVisible());
+}
+
 void tst_MvTimelineVirtualPlayheadPresenter::updateEnableClosesWhereNotAllowed_data()
 {
     QTest::addColumn<bool>("open");
@@ -339,7 +358,7 @@ void tst_MvTimelineVirtualPlayheadPresenter::seekHoldsTheUnsettledFrame()
     VirtualFixture f;
     MvMemoryPlayhead* playhead = f.timeline.playheadImpl();
     playhead->settle();
-    const qint64 target = settled ? playhead->settledFrame() : playhead->settledFrame() + 25;
+    const qint64 target = settled ? playhead->settledFrame() : playhead->settledFrame() + 100;
     QCOMPARE(playhead->isFrameSettled(target), settled);
     QList<bool> holdDuringSeek;
     f.scene.answer(MessageId::Seek, [&](MvMessage*) { holdDuringSeek.append(playhead->isSeekHold()); });

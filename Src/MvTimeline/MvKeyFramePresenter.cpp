@@ -48,7 +48,9 @@ QList<MvEffectPropertyBaseInfo> defaultProperties(bool audio)
 }
 
 MvKeyFramePresenterPrivate::MvKeyFramePresenterPrivate(MvKeyFramePresenter* q, IMvTimeline* timeline, QObject* parent)
-    : q_ptr(q), timeline(timeline), parentPresenter(qobject_cast<MvPresenter*>(parent))
+    : q_ptr(q)
+    , timeline(timeline)
+    , parentPresenter(qobject_cast<MvPresenter*>(parent))
 {
 }
 
@@ -227,7 +229,8 @@ bool MvKeyFramePresenterPrivate::canPasteKeyFrames() const
         return false;
     // One target long enough for the copied span is enough to offer the paste.
     const qint64 span = clipboard->minimumLength(clips);
-    return std::any_of(clips.cbegin(), clips.cend(), [span](const IMvClip* clip) { return clip->frameCount() >= span; });
+    return std::any_of(
+        clips.cbegin(), clips.cend(), [span](const IMvClip* clip) { return clip->frameCount() >= span; });
 }
 
 bool MvKeyFramePresenterPrivate::pasteKeyFrames()
@@ -319,7 +322,8 @@ void MvKeyFramePresenterPrivate::moveToKeyFrame(bool previous)
 }
 
 MvKeyFramePresenter::MvKeyFramePresenter(IMvTimeline* timeline, QObject* parent)
-    : MvPresenter(parent), d_ptr(new MvKeyFramePresenterPrivate(this, timeline, parent))
+    : MvPresenter(parent)
+    , d_ptr(new MvKeyFramePresenterPrivate(this, timeline, parent))
 {
 }
 

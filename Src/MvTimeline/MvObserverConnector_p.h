@@ -8,11 +8,12 @@ public:
     virtual ~IMvObserverConnector() = default;
 };
 
-template <typename Subject, typename Observer>
-class MvObserverConnector : public IMvObserverConnector
+template <typename Subject, typename Observer> class MvObserverConnector : public IMvObserverConnector
 {
 public:
-    MvObserverConnector(Subject* subject, Observer* observer) : m_subject(subject), m_observer(observer)
+    MvObserverConnector(Subject* subject, Observer* observer)
+        : m_subject(subject)
+        , m_observer(observer)
     {
         if (m_subject)
             m_subject->addObserver(m_observer);

@@ -24,7 +24,7 @@
 
 using namespace MVVBLMODEL;
 
-#define MV_PRESENTER_LOG(level, function, message)                                                                 \
+#define MV_PRESENTER_LOG(level, function, message)                                                                     \
     MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelinePresenter", function, message)
 
 namespace {
@@ -95,15 +95,16 @@ bool MvTimelinePresenterPrivate::splitClips(qint64 frame, QList<IMvClip*> clips,
     timeline->splitClips(newClips, toCut, frame);
     if (needGroupAfter) {
         groupAfterSplit(toCut, newClips);
-        MV_PRESENTER_LOG(MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips", QStringLiteral("groupAfterSplit"));
+        MV_PRESENTER_LOG(
+            MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips", QStringLiteral("groupAfterSplit"));
     }
     if (select) {
         MV_PRESENTER_LOG(MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips",
             QStringLiteral("bug:p7_5312 selected split clips,clip count = %1").arg(newClips.size()));
         if (timeline->selection())
             timeline->selection()->select(newClips);
-        MV_PRESENTER_LOG(MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips",
-            QStringLiteral("bug:p7_5312 selected end"));
+        MV_PRESENTER_LOG(
+            MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips", QStringLiteral("bug:p7_5312 selected end"));
     }
     return !newClips.isEmpty();
 }
@@ -209,8 +210,8 @@ bool MvTimelinePresenterPrivate::deleteSelectedClips()
 {
     Q_Q(MvTimelinePresenter);
     if (!actionEnabled) {
-        MV_PRESENTER_LOG(MvBaseLog::Refusal, "MvTimelinePresenterPrivate::deleteSelectedClips",
-            QStringLiteral("cannt do action"));
+        MV_PRESENTER_LOG(
+            MvBaseLog::Refusal, "MvTimelinePresenterPrivate::deleteSelectedClips", QStringLiteral("cannt do action"));
         return false;
     }
     IMvSelection* selection = timeline ? timeline->selection() : nullptr;
@@ -312,8 +313,8 @@ QList<IMvClip*> MvTimelinePresenterPrivate::withMotionFollowers(const QList<IMvC
     return moving;
 }
 
-bool MvTimelinePresenterPrivate::moveWithActionsHeld(const QList<IMvClip*>& clips, const QList<int>& trackOffsets,
-    qint64 frameOffset, const QList<IMvClip*>& selected)
+bool MvTimelinePresenterPrivate::moveWithActionsHeld(
+    const QList<IMvClip*>& clips, const QList<int>& trackOffsets, qint64 frameOffset, const QList<IMvClip*>& selected)
 {
     Q_Q(MvTimelinePresenter);
     // Menus are refreshed once, after the model has settled, not for every notification of the move.

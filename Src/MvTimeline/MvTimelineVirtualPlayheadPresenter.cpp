@@ -5,20 +5,21 @@
 #include "MvTimelineLog_p.h"
 #include "MvTimelinePresenter.h"
 
-#define MV_VIRTUAL_PLAYHEAD_LOG(level, function, message)                                                          \
+#define MV_VIRTUAL_PLAYHEAD_LOG(level, function, message)                                                              \
     MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelineVirtualPlayheadPresenter", function, message)
 
 using namespace MVVBLMODEL;
 
 MvTimelineVirtualPlayheadPresenterPrivate::MvTimelineVirtualPlayheadPresenterPrivate(
     MvTimelineVirtualPlayheadPresenter* q, MvTimelinePresenter* presenter)
-    : q_ptr(q), timelinePresenter(presenter)
+    : q_ptr(q)
+    , timelinePresenter(presenter)
 {
     IMvTimeline* timeline = timelinePresenter ? timelinePresenter->timeline() : nullptr;
     playhead = timeline ? timeline->playhead() : nullptr;
     if (playhead)
-        connectors.append(new MvObserverConnector<IMvTimelinePlayhead, MvTimelineVirtualPlayheadPresenterPrivate>(
-            playhead, this));
+        connectors.append(
+            new MvObserverConnector<IMvTimelinePlayhead, MvTimelineVirtualPlayheadPresenterPrivate>(playhead, this));
 }
 
 MvTimelineVirtualPlayheadPresenterPrivate::~MvTimelineVirtualPlayheadPresenterPrivate()
@@ -36,8 +37,8 @@ void MvTimelineVirtualPlayheadPresenterPrivate::seekToCurrentFrame()
 void MvTimelineVirtualPlayheadPresenterPrivate::open()
 {
     Q_Q(MvTimelineVirtualPlayheadPresenter);
-    MV_VIRTUAL_PLAYHEAD_LOG(MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenter::open",
-        QStringLiteral("Open Virtual Playhead"));
+    MV_VIRTUAL_PLAYHEAD_LOG(
+        MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenter::open", QStringLiteral("Open Virtual Playhead"));
     if (timelinePresenter) {
         timelinePresenter->pauseMediaPlayer();
         if (IMvTimeline* timeline = timelinePresenter->timeline())
@@ -55,8 +56,8 @@ void MvTimelineVirtualPlayheadPresenterPrivate::open()
 void MvTimelineVirtualPlayheadPresenterPrivate::close()
 {
     Q_Q(MvTimelineVirtualPlayheadPresenter);
-    MV_VIRTUAL_PLAYHEAD_LOG(MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenter::close",
-        QStringLiteral("Close Virtual Playhead"));
+    MV_VIRTUAL_PLAYHEAD_LOG(
+        MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenter::close", QStringLiteral("Close Virtual Playhead"));
     opened = false;
     if (playhead)
         playhead->virtualClosed();
@@ -133,7 +134,8 @@ void MvTimelineVirtualPlayheadPresenterPrivate::onPlayheadEvent(IMvTimelinePlayh
 
 MvTimelineVirtualPlayheadPresenter::MvTimelineVirtualPlayheadPresenter(
     MvTimelinePresenter* timelinePresenter, QObject* parent)
-    : MvPresenter(parent), d_ptr(new MvTimelineVirtualPlayheadPresenterPrivate(this, timelinePresenter))
+    : MvPresenter(parent)
+    , d_ptr(new MvTimelineVirtualPlayheadPresenterPrivate(this, timelinePresenter))
 {
 }
 
