@@ -3,6 +3,12 @@
 #include "MvDemoRenderSimulator.h"
 #include "MvDemoWindow.h"
 
+#include "IMvAbstractClip.h"
+#include "IMvSelection.h"
+#include "IMvTimelinePlayhead.h"
+#include "IMvTrack.h"
+#include "Memory/MvMemoryTimeline.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -13,6 +19,31 @@
 MvDemoScenario::MvDemoScenario(MvDemoWindow* window, const QString& outputDir)
     : m_window(window), m_outputDir(outputDir)
 {
+}
+
+IMvClip* MvDemoScenario::clipNamed(const QString& name) const
+{
+    IMvTimeline* timeline = m_window->timeline();
+    for (int i = 0; i < timeline->trackCount(); ++i) {
+        const QList<IMvClip*> clips = timeline->trackAt(i)->clips();
+        for (IMvClip* clip : clips) {
+            if (clip->name() == name)
+                return clip;
+        }
+    }
+    return nullptr;
+}
+
+void MvDemoScenario::select(const QString& name)
+{
+    IMvClip* clip = clipNamed(name);
+    m_window->appendJournal(QStringLiteral("scenario: select %1").arg(name));
+    m_window->timeline()->selection()->select(clip ? QList<IMvClip*> { clip } : QList<IMvClip*>());
+}
+
+void MvDemoScenario::seek(qint64 frame)
+{
+    m_window->timeline()->playhead()->setCurrentFrame(frame);
 }
 
 void MvDemoScenario::trigger(const QString& actionName)
@@ -31,6 +62,39 @@ QList<MvDemoScenario::Step> MvDemoScenario::steps()
                  m_window->renderSimulator()->step();
          } },
         { QStringLiteral("zoom-in"), [this] { trigger(QStringLiteral("zoom-in")); } },
+        { QStringLiteral("zoom-fit"), [this] { trigger(QStringLiteral("zoom-fit")); } },
+        { QStringLiteral("split-market-street"), [this] {
+             select(QStringLiteral("Market street"));
+             seek(480);
+             trigger(QStringLiteral("split"));
+         } },
+        { QStringLiteral("trim-fishing-boats"), [this] {
+             select(QStringLiteral("Fishing boats"));
+             seek(1500);
+             trigger(QStringLiteral("trim-end"));
+         } },
+        { QStringLiteral("move-logo-right-and-up"), [this] {
+             select(QStringLiteral("Logo"));
+             trigger(QStringLiteral("move-right-second"));
+             trigger(QStringLiteral("move-up"));
+         } },
+        { QStringLiteral("marker-and-keyframe"), [this] {
+             select(QStringLiteral("Old map"));
+             seek(1000);
+             trigger(QStringLiteral("add-marker"));
+             trigger(QStringLiteral("add-keyframe"));
+             trigger(QStringLiteral("rotate-cw"));
+         } },
+        { QStringLiteral("ripple-delete"), [this] {
+             select(QStringLiteral("Route planner"));
+             trigger(QStringLiteral("ripple-delete"));
+         } },
+        { QStringLiteral("undo-ripple-delete"), [this] { trigger(QStringLiteral("undo")); } },
+        { QStringLiteral("virtual-playhead"), [this] {
+             trigger(QStringLiteral("virtual-open"));
+             seek(2000);
+         } },
+        { QStringLiteral("virtual-playhead-closed"), [this] { trigger(QStringLiteral("virtual-close")); } },
         { QStringLiteral("large-tracks"), [this] { trigger(QStringLiteral("rows-large")); } },
         { QStringLiteral("normal-tracks"), [this] { trigger(QStringLiteral("rows-normal")); } },
     };

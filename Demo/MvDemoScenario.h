@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class IMvClip;
 class MvDemoWindow;
 
 // The offscreen tour of the demo: performs what a person would do, in order, and leaves a
@@ -25,6 +26,9 @@ private:
 
     QList<Step> steps();
     void trigger(const QString& actionName);
+    IMvClip* clipNamed(const QString& name) const;
+    void select(const QString& name);
+    void seek(qint64 frame);
     bool screenshot(int index, const QString& name);
 
     MvDemoWindow* m_window;

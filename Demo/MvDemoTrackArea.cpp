@@ -135,6 +135,20 @@ void MvDemoTrackArea::paintEvent(QPaintEvent* event)
             }
         }
     }
+    paintVirtualPlayhead(painter);
+}
+
+void MvDemoTrackArea::paintVirtualPlayhead(QPainter& painter) const
+{
+    IMvTimelinePlayhead* playhead = m_timeline->playhead();
+    if (!playhead->isVirtualOpen())
+        return;
+    // While the virtual playhead is open the host draws it: a dashed line over a tinted area.
+    painter.fillRect(rect(), QColor(0x8E, 0x6C, 0xC9, 28));
+    const int x = m_timeline->ruler()->frameToPixel(playhead->currentFrame());
+    painter.setPen(QPen(QColor(0xC9, 0xA8, 0xFF), 2, Qt::DashLine));
+    painter.drawLine(x, 0, x, height());
+    painter.drawText(QRect(x + 6, height() - 22, 200, 20), Qt::AlignLeft | Qt::AlignVCenter, tr("virtual playhead"));
 }
 
 void MvDemoTrackArea::paintClip(QPainter& painter, IMvClip* clip, const QRect& rect, bool selected) const
@@ -223,6 +237,7 @@ void MvDemoTrackArea::onRulerEvent(int kind)
 void MvDemoTrackArea::onPlayheadEvent(IMvTimelinePlayhead* source, int kind)
 {
     Q_UNUSED(source)
-    Q_UNUSED(kind)
     update();
+    if (kind == IMvTimelinePlayhead::Moved || kind == IMvTimelinePlayhead::VirtualStateChanged)
+        Q_EMIT playheadMoved();
 }

@@ -31,6 +31,7 @@ public:
 
 Q_SIGNALS:
     void selectionChanged();
+    void playheadMoved();
     void itemDoubleClicked(IMvAbstractClip* item);
 
 protected:
@@ -42,6 +43,7 @@ protected:
 
 private:
     QRect clipRect(const IMvAbstractClip* clip, int rowTop, int rowHeight) const;
+    void paintVirtualPlayhead(QPainter& painter) const;
     void paintClip(QPainter& painter, IMvClip* clip, const QRect& rect, bool selected) const;
     void paintClipDetails(QPainter& painter, IMvClip* clip, const QRect& rect) const;
 

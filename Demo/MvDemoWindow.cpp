@@ -84,6 +84,7 @@ void MvDemoWindow::buildLayout()
     rows->addWidget(right, 1);
     setCentralWidget(central);
     connect(m_trackArea, &MvDemoTrackArea::selectionChanged, this, &MvDemoWindow::refreshActions);
+    connect(m_trackArea, &MvDemoTrackArea::playheadMoved, this, &MvDemoWindow::refreshActions);
     connect(m_headers, &MvDemoTrackHeaders::lockToggled, this, &MvDemoWindow::refreshActions);
 
     m_journalView = new QPlainTextEdit(this);
@@ -124,7 +125,12 @@ void MvDemoWindow::buildMenus()
     addCommand(edit, QStringLiteral("undo"), tr("&Undo"), QKeySequence::Undo, [undo] { undo->undo(); });
     addCommand(edit, QStringLiteral("redo"), tr("&Redo"), QKeySequence::Redo, [undo] { undo->redo(); });
 
+    buildClipMenu();
+    buildMarkerAndKeyFrameMenus();
+
     QMenu* view = menuBar()->addMenu(tr("&View"));
+    addCommand(view, QStringLiteral("zoom-fit"), tr("Zoom to &Fit"), QKeySequence(Qt::SHIFT + Qt::Key_Z),
+        [this] { m_presenter->fitTimeline(); });
     addCommand(view, QStringLiteral("zoom-in"), tr("Zoom &In"), QKeySequence::ZoomIn, [this] {
         m_rulerPresenter->zoom(-120);
         m_rulerPresenter->moveCurrentFrameToCenter();
@@ -164,6 +170,7 @@ void MvDemoWindow::refreshActions()
     m_actions.value(QStringLiteral("redo"))->setEnabled(undo->canRedo());
     m_actions.value(QStringLiteral("redo"))->setText(
         undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
+    refreshEditActions();
     refreshStatus();
 }
 

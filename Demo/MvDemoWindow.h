@@ -41,6 +41,9 @@ public:
 private:
     void buildLayout();
     void buildMenus();
+    void buildClipMenu();
+    void buildMarkerAndKeyFrameMenus();
+    void refreshEditActions();
     QAction* addCommand(QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut,
         std::function<void()> command);
     void refreshActions();
