@@ -20,6 +20,10 @@ endfunction()
 # installed under include/<folder>.
 function(mv_install_library target exportName folder)
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${exportName})
+    if(UNIX AND NOT APPLE)
+        # Installed side by side: each library finds its siblings next to itself.
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    endif()
     add_library(Mv::${exportName} ALIAS ${target})
     install(TARGETS ${target} EXPORT MvTimelineTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
