@@ -196,6 +196,11 @@ void tst_MvMemoryRuler::framesInPixelsTruncates()
     QCOMPARE(ruler.framesInPixels(3), 0);
     ruler.setZoomRatio(0.625f);
     QCOMPARE(ruler.framesInPixels(30), 48);
+    QCOMPARE(ruler.framesInPixels(-30), -48);
+    // Zoomed out all the way, 600 px show 1800 frames: 30 px are 90 frames despite float rounding.
+    ruler.setViewWidth(600);
+    ruler.setZoomRatio(ruler.minZoomRatio());
+    QCOMPARE(ruler.framesInPixels(30), 90);
 }
 
 void tst_MvMemoryRuler::ticksMakeRoundUnitsAndStayApart_data()

@@ -155,7 +155,10 @@ qint64 MvMemoryRuler::pixelToFrame(int x) const
 
 int MvMemoryRuler::framesInPixels(int pixels) const
 {
-    const double frames = double(pixels) / double(m_state.ratio);
+    // The ratio is a float: 600 px over 1800 frames is a hair above 1/3, and 30 px must still
+    // cover 90 frames, not 89.
+    double frames = double(pixels) / double(m_state.ratio);
+    frames += frames >= 0.0 ? 1e-4 : -1e-4;
     const double limit = double(std::numeric_limits<int>::max());
     return int(qBound(-limit, frames, limit));
 }
