@@ -3,17 +3,40 @@
 #include "IMvTimelineRenderService.h"
 #include "Memory/MvMemoryRenderService.h"
 #include "Memory/MvMemoryRuler.h"
+#include "Memory/MvMemoryTimeline.h"
 #include "MvBenchHarness.h"
 #include "MvRulerPainter_p.h"
 #include "MvScreen.h"
+#include "MvPureTimelineRulerWidget.h"
+#include "MvTimelinePresenter.h"
+#include "MvTimelineRenderWidget.h"
 #include "MvTimelineRulerPresenter.h"
 
 #include <QImage>
+#include <QWidget>
 #include <QPainter>
 #include <QPainterPath>
 #include <QtMath>
 
 namespace {
+
+// The floor of a widget paint: the same widget size, filling its background and nothing else.
+class BackgroundOnly : public QWidget
+{
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().brush(QPalette::Window));
+    }
+};
+
+double widgetFloor(const QSize& size, QImage& image)
+{
+    BackgroundOnly floor;
+    floor.resize(size);
+    return MvBench::measure([&] { floor.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
+}
 
 constexpr int kWidth = 3840;
 constexpr int kHeight = 28;
@@ -94,6 +117,21 @@ void rulerPaint()
         }
     }
     MvScreen::setDevicePixelRatio(0.0);
+
+    // The whole widget, as a host shows it, against the same widget only filling its background.
+    for (qint64 total : {qint64(1800), qint64(30 * 3600 * 10)}) {
+        MvPureTimelineRulerWidget widget;
+        widget.resize(kWidth, kHeight);
+        widget.setFramerate({30000, 1001});
+        widget.setTotalFrames(total);
+        widget.setCurrentFrame(total / 2);
+        QImage image = target(1.0);
+        const double floor = widgetFloor(widget.size(), image);
+        const double ms = MvBench::measure(
+            [&] { widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
+        MvBench::report(QStringLiteral("pure ruler widget render, %1 frames, zoomed out").arg(total), ms, floor,
+            QStringLiteral("goal < 0.5 ms"));
+    }
 }
 
 QList<MvRenderSegment> manySegments(qint64 total, int count)
@@ -113,53 +151,57 @@ void renderStrip()
 {
     constexpr int kStripHeight = 6;
     for (bool zoomedIn : {false, true}) {
-        MvMemoryRuler ruler;
-        ruler.setViewWidth(kWidth);
-        ruler.setTotalFrames(30 * 3600);
-        ruler.setCurrentFrame(30 * 1800);
+        MvMemoryTimeline timeline;
+        timeline.addTrack(3);
+        timeline.addClip(0, 2, 0, 30 * 3600 - 1, QStringLiteral("hour"));
+        IMvTimelineRuler* ruler = timeline.ruler();
+        ruler->setViewWidth(kWidth);
+        ruler->setCurrentFrame(30 * 1800);
         if (zoomedIn)
-            ruler.setZoomRatio(1.0f);
-        MvMemoryRenderService service;
-        service.setSegments(manySegments(ruler.totalFrames(), 10000));
+            ruler->setZoomRatio(1.0f);
+        MvTimelinePresenter presenter(nullptr, &timeline);
+        MvTimelineRenderWidget strip(&presenter, nullptr);
+        strip.resize(kWidth, kStripHeight);
+        strip.setFinishedColor(Qt::green);
+        strip.setUnFinishedColor(Qt::red);
+        auto* service = static_cast<MvMemoryRenderService*>(timeline.renderService());
+        const QList<MvRenderSegment> first = manySegments(ruler->totalFrames(), 10000);
+        QList<MvRenderSegment> second = first;
+        second.last().unfinished ^= 1u;
 
         QImage image(kWidth, kStripHeight, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::black);
-        const double floor = MvBench::measure([&] {
-            QPainter painter(&image);
-            painter.fillRect(QRect(0, 0, kWidth, kStripHeight), QColor(0x1f, 0x20, 0x24));
-        });
-
-        QList<MvRenderSegment> segments;
-        QVector<MvPixelSpan> finished;
-        QVector<MvPixelSpan> unfinished;
-        const auto rebuild = [&] {
-            finished.resize(0);
-            unfinished.resize(0);
-            service.segments(segments);
-            for (const MvRenderSegment& segment : qAsConst(segments)) {
-                if (segment.end < segment.start)
-                    continue;
-                const MvPixelSpan span{ruler.frameToPixel(segment.start), ruler.frameToPixel(segment.end)};
-                (quint32(segment.unfinished) != 0 ? unfinished : finished).append(span);
-            }
-            MvStripPainter::mergeSpans(&finished);
-            MvStripPainter::mergeSpans(&unfinished);
-        };
+        const double floor = widgetFloor(strip.size(), image);
+        bool flip = false;
         const double ms = MvBench::measure([&] {
-            rebuild();
-            QPainter painter(&image);
-            MvStripPainter::fillSpans(painter, finished, kWidth, kStripHeight, Qt::green);
-            MvStripPainter::fillSpans(painter, unfinished, kWidth, kStripHeight, Qt::red);
+            // Each change of the list makes the strip rebuild; then it is painted.
+            flip = !flip;
+            service->setSegments(flip ? first : second);
+            strip.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
         });
         const QString zoom = zoomedIn ? QStringLiteral("zoomed in") : QStringLiteral("zoomed out");
         MvBench::report(QStringLiteral("render strip rebuild + paint, 10000 segments, %1").arg(zoom), ms, floor,
             QStringLiteral("goal < 1 ms"));
-        const double paintMs = MvBench::measure([&] {
-            QPainter painter(&image);
-            MvStripPainter::fillSpans(painter, finished, kWidth, kStripHeight, Qt::green);
-            MvStripPainter::fillSpans(painter, unfinished, kWidth, kStripHeight, Qt::red);
-        });
+        const double paintMs = MvBench::measure(
+            [&] { strip.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
         MvBench::report(QStringLiteral("  paint only"), paintMs, floor, QString());
+
+        // For comparison: the same rectangles filled as two paths.
+        QPainterPath done;
+        QPainterPath pending;
+        for (const MvRenderSegment& segment : first) {
+            if (segment.end < segment.start)
+                continue;
+            const int x0 = ruler->frameToPixel(segment.start);
+            const int x1 = ruler->frameToPixel(segment.end);
+            (segment.unfinished ? pending : done).addRect(QRectF(x0, 0, x1 - x0, kStripHeight));
+        }
+        const double pathMs = MvBench::measure([&] {
+            QPainter painter(&image);
+            painter.fillPath(done, Qt::green);
+            painter.fillPath(pending, Qt::red);
+        });
+        MvBench::report(QStringLiteral("  paint as two paths (the old way)"), pathMs, floor, QString());
     }
 }
 
