@@ -45,14 +45,14 @@ double measure(const std::function<void()>& work)
 void report(const QString& name, double milliseconds, double floorMilliseconds, const QString& goal)
 {
     const double ratio = floorMilliseconds > 0.0 ? milliseconds / floorMilliseconds : 0.0;
-    std::printf("%-58s %11.6f ms  floor %9.6f ms  ratio %6.2f  %s\n", qPrintable(name), milliseconds,
-        floorMilliseconds, ratio, qPrintable(goal));
+    std::printf("%-58s %11.6f ms  floor %9.6f ms  ratio %6.2f  %s\n", qPrintable(name), milliseconds, floorMilliseconds,
+        ratio, qPrintable(goal));
     std::fflush(stdout);
 }
 
 void registerGroup(const char* name, void (*run)())
 {
-    groups().append({name, run});
+    groups().append({ name, run });
 }
 
 int runAll(const QString& filter)

@@ -5,17 +5,17 @@
 #include "Memory/MvMemoryRuler.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvBenchHarness.h"
+#include "MvPureTimelineRulerWidget.h"
 #include "MvRulerPainter_p.h"
 #include "MvScreen.h"
-#include "MvPureTimelineRulerWidget.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRenderWidget.h"
 #include "MvTimelineRulerPresenter.h"
 
 #include <QImage>
-#include <QWidget>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWidget>
 #include <QtMath>
 
 namespace {
@@ -68,12 +68,12 @@ void rulerPaint()
         bool zoomedIn;
     };
     const Case cases[] = {
-        {"1 minute, zoomed out", 1800, false},
-        {"1 minute, zoomed in", 1800, true},
-        {"10 hours, zoomed out", 30 * 3600 * 10, false},
-        {"10 hours, zoomed in", 30 * 3600 * 10, true},
+        { "1 minute, zoomed out", 1800, false },
+        { "1 minute, zoomed in", 1800, true },
+        { "10 hours, zoomed out", 30 * 3600 * 10, false },
+        { "10 hours, zoomed in", 30 * 3600 * 10, true },
     };
-    for (double dpr : {1.0, 1.25}) {
+    for (double dpr : { 1.0, 1.25 }) {
         MvScreen::setDevicePixelRatio(dpr);
         QImage image = target(dpr);
         const double floor = floorFor(image);
@@ -119,16 +119,15 @@ void rulerPaint()
     MvScreen::setDevicePixelRatio(0.0);
 
     // The whole widget, as a host shows it, against the same widget only filling its background.
-    for (qint64 total : {qint64(1800), qint64(30 * 3600 * 10)}) {
+    for (qint64 total : { qint64(1800), qint64(30 * 3600 * 10) }) {
         MvPureTimelineRulerWidget widget;
         widget.resize(kWidth, kHeight);
-        widget.setFramerate({30000, 1001});
+        widget.setFramerate({ 30000, 1001 });
         widget.setTotalFrames(total);
         widget.setCurrentFrame(total / 2);
         QImage image = target(1.0);
         const double floor = widgetFloor(widget.size(), image);
-        const double ms = MvBench::measure(
-            [&] { widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
+        const double ms = MvBench::measure([&] { widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
         MvBench::report(QStringLiteral("pure ruler widget render, %1 frames, zoomed out").arg(total), ms, floor,
             QStringLiteral("goal < 0.5 ms"));
     }
@@ -142,7 +141,7 @@ QList<MvRenderSegment> manySegments(qint64 total, int count)
     const qint64 length = total / count;
     for (int i = 0; i < count; ++i) {
         const qint64 start = i * length;
-        segments.append({start, start + length + (i % 3), quint64(i % 2)});
+        segments.append({ start, start + length + (i % 3), quint64(i % 2) });
     }
     return segments;
 }
@@ -150,7 +149,7 @@ QList<MvRenderSegment> manySegments(qint64 total, int count)
 void renderStrip()
 {
     constexpr int kStripHeight = 6;
-    for (bool zoomedIn : {false, true}) {
+    for (bool zoomedIn : { false, true }) {
         MvMemoryTimeline timeline;
         timeline.addTrack(3);
         timeline.addClip(0, 2, 0, 30 * 3600 - 1, QStringLiteral("hour"));
@@ -182,8 +181,8 @@ void renderStrip()
         const QString zoom = zoomedIn ? QStringLiteral("zoomed in") : QStringLiteral("zoomed out");
         MvBench::report(QStringLiteral("render strip rebuild + paint, 10000 segments, %1").arg(zoom), ms, floor,
             QStringLiteral("goal < 1 ms"));
-        const double paintMs = MvBench::measure(
-            [&] { strip.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
+        const double paintMs
+            = MvBench::measure([&] { strip.render(&image, QPoint(), QRegion(), QWidget::RenderFlags()); });
         MvBench::report(QStringLiteral("  paint only"), paintMs, floor, QString());
 
         // For comparison: the same rectangles filled as two paths.
@@ -211,8 +210,8 @@ void timecodes()
     int sink = 0;
     const double floor = MvBench::measure([&] { sink += QString::number(++frame).size(); });
     frame = 0;
-    const double ms = MvBench::measure(
-        [&] { sink += MvTimelineRulerPresenter::formatTimecode(++frame * 7, 30000, 1001).size(); });
+    const double ms
+        = MvBench::measure([&] { sink += MvTimelineRulerPresenter::formatTimecode(++frame * 7, 30000, 1001).size(); });
     MvBench::report(QStringLiteral("time code per call (floor: QString::number)"), ms, floor, QString());
     if (sink == 42)
         std::puts("");

@@ -74,10 +74,7 @@ private Q_SLOTS:
 
 private:
     QImage grab(MvTimelineRenderWidget* strip) const;
-    MvMemoryRenderService* service() const
-    {
-        return static_cast<MvMemoryRenderService*>(m_timeline->renderService());
-    }
+    MvMemoryRenderService* service() const { return static_cast<MvMemoryRenderService*>(m_timeline->renderService()); }
 
     QScopedPointer<ScriptedTimeline> m_timeline;
     QScopedPointer<MvTimelinePresenter> m_presenter;
@@ -139,8 +136,8 @@ void tst_MvTimelineRenderWidget::coloursAreStyleSheetProperties()
     MvTimelineRenderWidget strip(m_presenter.data(), nullptr);
     QVERIFY(!strip.finishedColor().isValid());
     QVERIFY(!strip.unFinishedColor().isValid());
-    strip.setStyleSheet(
-        QStringLiteral("MvTimelineRenderWidget { qproperty-finishedColor: #28a05a; qproperty-unFinishedColor: #c8463c; }"));
+    strip.setStyleSheet(QStringLiteral(
+        "MvTimelineRenderWidget { qproperty-finishedColor: #28a05a; qproperty-unFinishedColor: #c8463c; }"));
     strip.ensurePolished();
     QCOMPARE(strip.finishedColor(), kDone);
     QCOMPARE(strip.unFinishedColor(), kPending);
@@ -155,7 +152,7 @@ void tst_MvTimelineRenderWidget::segmentsArePaintedInTimelineCoordinates()
     strip.setFinishedColor(kDone);
     strip.setUnFinishedColor(kPending);
     // Finished 0..599 (x 0..200), still to render 300..899 (x 100..300) drawn over it.
-    service()->setSegments({{0, 599, 0}, {300, 899, 1}, {1500, 1799, quint64(1) << 32}});
+    service()->setSegments({ { 0, 599, 0 }, { 300, 899, 1 }, { 1500, 1799, quint64(1) << 32 } });
     const QImage image = grab(&strip);
     QCOMPARE(image.pixel(50, 3), kDone.rgb());
     QCOMPARE(image.pixel(99, 3), kDone.rgb());
@@ -179,7 +176,7 @@ void tst_MvTimelineRenderWidget::zeroWidthAndReversedSegmentsPaintNothing()
     strip.resize(kWidth, kStripHeight);
     strip.setFinishedColor(kDone);
     strip.setUnFinishedColor(kPending);
-    service()->setSegments({{300, 300, 0}, {900, 600, 1}});
+    service()->setSegments({ { 300, 300, 0 }, { 900, 600, 1 } });
     const QImage image = grab(&strip);
     for (int x = 0; x < kWidth; ++x)
         QCOMPARE(image.pixel(x, 3), kNothing.rgb());
@@ -190,7 +187,7 @@ void tst_MvTimelineRenderWidget::unsetColoursPaintNothing()
     MvTimelineRenderWidget strip(m_presenter.data(), nullptr);
     strip.resize(kWidth, kStripHeight);
     strip.setUnFinishedColor(kPending);
-    service()->setSegments({{0, 299, 0}, {600, 899, 1}});
+    service()->setSegments({ { 0, 299, 0 }, { 600, 899, 1 } });
     const QImage image = grab(&strip);
     QCOMPARE(image.pixel(50, 3), kNothing.rgb());
     QCOMPARE(image.pixel(250, 3), kPending.rgb());
@@ -221,7 +218,7 @@ void tst_MvTimelineRenderWidget::onlyVisibleRangeChangesRebuild()
         QCOMPARE(ruler.observers.size(), 1);
         strip.resize(kWidth, kStripHeight);
         strip.setFinishedColor(kDone);
-        service()->setSegments({{0, 599, 0}});
+        service()->setSegments({ { 0, 599, 0 } });
         QCOMPARE(grab(&strip).pixel(250, 3), kNothing.rgb());
 
         ruler.setVisualRange(0, 600); // silently: the strip hears only what is announced
@@ -237,7 +234,7 @@ void tst_MvTimelineRenderWidget::resizeAloneKeepsTheOldHeight()
     MvTimelineRenderWidget strip(m_presenter.data(), nullptr);
     strip.resize(kWidth, kStripHeight);
     strip.setFinishedColor(kDone);
-    service()->setSegments({{0, 599, 0}});
+    service()->setSegments({ { 0, 599, 0 } });
     strip.resize(kWidth, kStripHeight + 4);
     QImage image = grab(&strip);
     QCOMPARE(image.pixel(50, kStripHeight - 1), kDone.rgb());
@@ -271,7 +268,7 @@ void tst_MvTimelineRenderWidget::fractionalScalesRepaintTheParentsBand()
     host.painted = QRegion();
 
     MvScreen::setDevicePixelRatio(scale);
-    service()->setSegments({{0, 299, 1}});
+    service()->setSegments({ { 0, 299, 1 } });
     // The strip's own area is repainted in every case; the row above it only at 1.25 and 1.75.
     QTRY_VERIFY(host.painted.contains(QPoint(10, 40 - kStripHeight)));
     QCOMPARE(host.painted.contains(QPoint(10, 40 - kStripHeight - 1)), band);

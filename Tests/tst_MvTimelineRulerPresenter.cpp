@@ -27,7 +27,10 @@ public:
 class PaintedByPresenter : public QWidget
 {
 public:
-    explicit PaintedByPresenter(MvTimelineRulerPresenter* presenter) : presenter(presenter) { }
+    explicit PaintedByPresenter(MvTimelineRulerPresenter* presenter)
+        : presenter(presenter)
+    {
+    }
     MvTimelineRulerPresenter* presenter;
 
 protected:
@@ -46,7 +49,7 @@ struct Fixture
     MvMemoryRuler* ruler() const { return static_cast<MvMemoryRuler*>(timeline.ruler()); }
 
     MvMemoryTimeline timeline;
-    HostPresenter host{nullptr, &timeline};
+    HostPresenter host { nullptr, &timeline };
 };
 
 }
@@ -131,8 +134,8 @@ void tst_MvTimelineRulerPresenter::withoutATimelineNothingHappens()
 void tst_MvTimelineRulerPresenter::signalsAreDeclaredInTheirOrder()
 {
     const QMetaObject& meta = MvTimelineRulerPresenter::staticMetaObject;
-    const QList<QByteArray> expected{"zoomChanged()", "frameRateChanged()", "visualRangeChanged()",
-        "totalFrameChanged()", "minVisualChanged()", "sigViewWidthChanged()"};
+    const QList<QByteArray> expected { "zoomChanged()", "frameRateChanged()", "visualRangeChanged()",
+        "totalFrameChanged()", "minVisualChanged()", "sigViewWidthChanged()" };
     int previous = -1;
     for (const QByteArray& signature : expected) {
         const int index = meta.indexOfSignal(signature.constData());
@@ -166,12 +169,12 @@ void tst_MvTimelineRulerPresenter::currentFrameNotificationEmitsNothing()
 {
     Fixture f;
     MvTimelineRulerPresenter presenter(&f.host, nullptr);
-    const QList<QSignalSpy*> spies{new QSignalSpy(&presenter, &MvTimelineRulerPresenter::zoomChanged),
+    const QList<QSignalSpy*> spies { new QSignalSpy(&presenter, &MvTimelineRulerPresenter::zoomChanged),
         new QSignalSpy(&presenter, &MvTimelineRulerPresenter::frameRateChanged),
         new QSignalSpy(&presenter, &MvTimelineRulerPresenter::visualRangeChanged),
         new QSignalSpy(&presenter, &MvTimelineRulerPresenter::totalFrameChanged),
         new QSignalSpy(&presenter, &MvTimelineRulerPresenter::minVisualChanged),
-        new QSignalSpy(&presenter, &MvTimelineRulerPresenter::sigViewWidthChanged)};
+        new QSignalSpy(&presenter, &MvTimelineRulerPresenter::sigViewWidthChanged) };
     f.ruler()->setCurrentFrame(100); // visible already: only a kind 1 notification
     QCOMPARE(f.ruler()->currentFrame(), qint64(100));
     for (QSignalSpy* spy : spies)

@@ -25,7 +25,9 @@ using Journal = QStringList;
 class HostPresenter : public MvTimelinePresenter
 {
 public:
-    HostPresenter(IMvTimeline* timeline, Journal* journal) : MvTimelinePresenter(nullptr, timeline), journal(journal)
+    HostPresenter(IMvTimeline* timeline, Journal* journal)
+        : MvTimelinePresenter(nullptr, timeline)
+        , journal(journal)
     {
     }
     void updateAction() override { journal->append(QStringLiteral("menu")); }
@@ -36,7 +38,8 @@ class RecordingRulerPresenter : public MvTimelineRulerPresenter
 {
 public:
     RecordingRulerPresenter(MvTimelinePresenter* host, Journal* journal)
-        : MvTimelineRulerPresenter(host, nullptr), journal(journal)
+        : MvTimelineRulerPresenter(host, nullptr)
+        , journal(journal)
     {
     }
     void init() override { ++inits; }
@@ -148,7 +151,7 @@ void tst_MvTimelineRulerWidget::resizeTellsThePresenterTheWidth()
 void tst_MvTimelineRulerWidget::clickMovesThePlayheadThenRefreshesTheMenu()
 {
     pressRelease(QPoint(300, 20));
-    QCOMPARE(m_journal, (Journal{QStringLiteral("position 300"), QStringLiteral("menu")}));
+    QCOMPARE(m_journal, (Journal { QStringLiteral("position 300"), QStringLiteral("menu") }));
     QCOMPARE(m_timeline->playhead()->currentFrame(), qint64(900));
     QCOMPARE(ruler()->currentFrame(), qint64(900));
 }
@@ -161,8 +164,9 @@ void tst_MvTimelineRulerWidget::handleDragHandsClampedPositions()
     moveWithLeftButton(m_widget.data(), QPoint(kWidth + 50, 5));
     moveWithLeftButton(m_widget.data(), QPoint(150, 5));
     QTest::mouseRelease(m_widget.data(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 5));
-    QCOMPARE(m_journal, (Journal{QStringLiteral("position 0"), QStringLiteral("position %1").arg(kWidth),
-                            QStringLiteral("position 150")}));
+    QCOMPARE(m_journal,
+        (Journal {
+            QStringLiteral("position 0"), QStringLiteral("position %1").arg(kWidth), QStringLiteral("position 150") }));
     QCOMPARE(m_timeline->playhead()->currentFrame(), qint64(450));
     QCOMPARE(ruler()->currentFrame(), qint64(450));
 }
@@ -266,8 +270,8 @@ void tst_MvTimelineRulerWidget::onlyFourPresenterSignalsRepaint()
     Q_EMIT m_presenter->sigViewWidthChanged();
     QCoreApplication::processEvents();
     QCOMPARE(counter.paints, 0);
-    for (auto signal : {&MvTimelineRulerPresenter::frameRateChanged, &MvTimelineRulerPresenter::zoomChanged,
-             &MvTimelineRulerPresenter::visualRangeChanged, &MvTimelineRulerPresenter::totalFrameChanged}) {
+    for (auto signal : { &MvTimelineRulerPresenter::frameRateChanged, &MvTimelineRulerPresenter::zoomChanged,
+             &MvTimelineRulerPresenter::visualRangeChanged, &MvTimelineRulerPresenter::totalFrameChanged }) {
         counter.paints = 0;
         Q_EMIT(m_presenter.data()->*signal)();
         QTRY_COMPARE(counter.paints, 1);
