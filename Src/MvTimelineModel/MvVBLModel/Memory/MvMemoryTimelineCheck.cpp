@@ -128,7 +128,8 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
         if (!transition->isLive())
             continue;
         if (transition->length() < 1 || transition->length() > transition->owner()->frameCount())
-            problems.append(QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
+            problems.append(
+                QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
     }
 }
 
@@ -172,10 +173,10 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     const MvMemoryClip::State state = clip->state();
     QString text = QLatin1String("  ") % clipId(clip) % QLatin1String(" type=") % num(state.type) % QLatin1String(" \"")
         % state.name % QLatin1String("\" ") % num(state.start) % QLatin1String("..") % num(state.end)
-        % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=")
-        % num(q->groupKindOf(clip)) % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=")
-        % num(state.enabled) % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=")
-        % num(state.tracking) % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
+        % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=") % num(q->groupKindOf(clip))
+        % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=") % num(state.enabled)
+        % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=") % num(state.tracking)
+        % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
     text += QLatin1String("\n    markers: ") % markersText(clip->markerList());
     text += QLatin1String("\n    video keys: ") % keysText(state.videoKeys);
     text += QLatin1String("\n    audio keys: ") % keysText(state.audioKeys);
@@ -196,8 +197,8 @@ QString MvMemoryTimeline::stateText() const
 {
     Q_D(const MvMemoryTimeline);
     QStringList lines;
-    lines.append(QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ")
-        % num(d->playhead->currentFrame()));
+    lines.append(
+        QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ") % num(d->playhead->currentFrame()));
     for (int row = 0; row < d->tracks.size(); ++row) {
         const MvMemoryTrack* track = d->tracks.at(row);
         lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
@@ -210,7 +211,8 @@ QString MvMemoryTimeline::stateText() const
         QStringList members;
         for (const MvMemoryClip* member : group.members)
             members.append(d->clipId(member));
-        lines.append(QLatin1String("group kind=") % num(group.kind) % QLatin1String(": ") % members.join(QLatin1Char(' ')));
+        lines.append(
+            QLatin1String("group kind=") % num(group.kind) % QLatin1String(": ") % members.join(QLatin1Char(' ')));
     }
     lines.append(QLatin1String("timeline markers: ") % markersText(d->timelineMarkers));
     QStringList selected;
