@@ -41,6 +41,12 @@ void MvDemoScenario::select(const QString& name)
     m_window->timeline()->selection()->select(clip ? QList<IMvClip*> { clip } : QList<IMvClip*>());
 }
 
+void MvDemoScenario::seekInto(const QString& name, double fraction)
+{
+    if (IMvClip* clip = clipNamed(name))
+        seek(clip->start() + qint64((clip->end() - clip->start()) * fraction));
+}
+
 void MvDemoScenario::seek(qint64 frame)
 {
     m_window->timeline()->playhead()->setCurrentFrame(frame);
@@ -65,12 +71,12 @@ QList<MvDemoScenario::Step> MvDemoScenario::steps()
         { QStringLiteral("zoom-fit"), [this] { trigger(QStringLiteral("zoom-fit")); } },
         { QStringLiteral("split-market-street"), [this] {
              select(QStringLiteral("Market street"));
-             seek(480);
+             seekInto(QStringLiteral("Market street"), 0.5);
              trigger(QStringLiteral("split"));
          } },
         { QStringLiteral("trim-fishing-boats"), [this] {
              select(QStringLiteral("Fishing boats"));
-             seek(1500);
+             seekInto(QStringLiteral("Fishing boats"), 0.6);
              trigger(QStringLiteral("trim-end"));
          } },
         { QStringLiteral("move-logo-right-and-up"), [this] {
@@ -80,7 +86,7 @@ QList<MvDemoScenario::Step> MvDemoScenario::steps()
          } },
         { QStringLiteral("marker-and-keyframe"), [this] {
              select(QStringLiteral("Old map"));
-             seek(1000);
+             seekInto(QStringLiteral("Old map"), 0.4);
              trigger(QStringLiteral("add-marker"));
              trigger(QStringLiteral("add-keyframe"));
              trigger(QStringLiteral("rotate-cw"));
@@ -89,7 +95,11 @@ QList<MvDemoScenario::Step> MvDemoScenario::steps()
              select(QStringLiteral("Route planner"));
              trigger(QStringLiteral("ripple-delete"));
          } },
-        { QStringLiteral("undo-ripple-delete"), [this] { trigger(QStringLiteral("undo")); } },
+        { QStringLiteral("undo-ripple-delete"), [this] {
+             trigger(QStringLiteral("undo"));
+             for (int i = 0; i < 30; ++i)
+                 m_window->renderSimulator()->step();
+         } },
         { QStringLiteral("virtual-playhead"), [this] {
              trigger(QStringLiteral("virtual-open"));
              seek(2000);

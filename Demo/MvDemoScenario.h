@@ -29,6 +29,7 @@ private:
     IMvClip* clipNamed(const QString& name) const;
     void select(const QString& name);
     void seek(qint64 frame);
+    void seekInto(const QString& name, double fraction);
     bool screenshot(int index, const QString& name);
 
     MvDemoWindow* m_window;
