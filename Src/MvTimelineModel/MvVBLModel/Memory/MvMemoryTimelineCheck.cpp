@@ -9,6 +9,8 @@
 
 #include <QSet>
 
+#include <limits>
+
 namespace {
 QString num(qint64 value)
 {
@@ -38,10 +40,14 @@ QString markersText(const MvMemoryMarkerList* list)
     return parts.join(QLatin1String("; "));
 }
 
-void checkMarkers(const MvMemoryMarkerList* list, const QString& owner, QStringList& problems)
+// Timeline markers may outlive the clips under them: a timeline that becomes shorter keeps the
+// markers past its new end (only new markers must lie on it). Clip markers stay on their clip.
+void checkMarkers(const MvMemoryMarkerList* list, const QString& owner, bool openEnded, QStringList& problems)
 {
     MvRange<qint64> range;
     list->frameRange(range);
+    if (openEnded)
+        range.last = std::numeric_limits<qint64>::max();
     const QList<MvMemoryMarker*> markers = list->attachedMarkers();
     for (int i = 0; i < markers.size(); ++i) {
         const qint64 at = list->mapToTimeline(markers.at(i)->frame());
@@ -111,7 +117,7 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
         }
         if (!MvMemoryClip::hasPicture(clip->type()) && !ids.isEmpty())
             problems.append(clipId(clip) % QLatin1String(": freeze frame on a clip without picture"));
-        checkMarkers(clip->markerList(), clipId(clip), problems);
+        checkMarkers(clip->markerList(), clipId(clip), false, problems);
     }
     for (const MvMemoryGroup& group : groups) {
         if (group.members.size() < 2)
@@ -143,7 +149,7 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
         if (items.indexOf(items.at(i)) != i)
             problems.append(QStringLiteral("selection holds an item twice"));
     }
-    checkMarkers(timelineMarkers, QStringLiteral("timeline"), problems);
+    checkMarkers(timelineMarkers, QStringLiteral("timeline"), true, problems);
     const qint64 length = q->duration();
     if (playhead->currentFrame() < 0 || playhead->currentFrame() > length)
         problems.append(QStringLiteral("playhead outside the timeline"));
