@@ -1,131 +1,85 @@
 #pragma once
 
-#include "IMvMarker.h"
 #include "IMvSelection.h"
 #include "IMvUndoRedoService.h"
 #include "Memory/MvCallJournal.h"
 #include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryPlayhead.h"
 #include "Memory/MvMemoryTimeline.h"
-#include "Memory/MvMemoryUndoService.h"
 #include "MvBaseLog.h"
 #include "MvRecordingScene.h"
 #include "MvTimelinePresenter.h"
 
-#include <QStringList>
-
 #include <memory>
 
-// The first line where two model dumps differ, empty when they are the same.
-inline QString mvStateDiff(const QString& actual, const QString& expected)
-{
-    const QStringList a = actual.split(QLatin1Char('\n'));
-    const QStringList e = expected.split(QLatin1Char('\n'));
-    for (int i = 0; i < qMax(a.size(), e.size()); ++i) {
-        if (a.value(i) != e.value(i))
-            return QStringLiteral("line %1: \"%2\" instead of \"%3\"").arg(i).arg(a.value(i), e.value(i));
-    }
-    return QString();
-}
-
-// A timeline presenter over an in-memory project with two picture rows (0, 1) and two audio rows
-// (2, 3), a recording scene and one journal in which model edits and scene messages meet.
+// A presenter over a project with picture rows 0, 1 and audio rows 2, 3; model edits and scene
+// messages meet in one journal.
 template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelinePresenter> struct MvEditFixture
 {
     explicit MvEditFixture(int kind = 0)
         : timeline(kind)
     {
-        timeline.addTrack(MVVBLMODEL::TrackType_Picture);
-        timeline.addTrack(MVVBLMODEL::TrackType_Picture);
-        timeline.addTrack(MVVBLMODEL::TrackType_Audio);
-        timeline.addTrack(MVVBLMODEL::TrackType_Audio);
+        for (MVVBLMODEL::MvTrackType type : { MVVBLMODEL::TrackType_Picture, MVVBLMODEL::TrackType_Picture,
+                 MVVBLMODEL::TrackType_Audio, MVVBLMODEL::TrackType_Audio })
+            timeline.addTrack(type);
         timeline.setJournal(&journal);
         scene.setObserver(
             [this](const MvRecordingScene::Entry& entry) { journal.record(QStringLiteral("scene:%1").arg(entry.id)); });
-        presenter.reset(new Presenter(nullptr, &timeline));
         presenter->setScene(&scene);
     }
 
-    ~MvEditFixture() { presenter.reset(); }
-
     MvMemoryClip* clip(int track, qint64 start, qint64 end, MVVBLMODEL::MvClipType type = MVVBLMODEL::ClipType_Video)
     {
-        return timeline.addClip(track, type, start, end, QStringLiteral("c%1").arg(++clipCount));
+        return timeline.addClip(track, type, start, end, QStringLiteral("clip"));
     }
-
     void select(const QList<IMvClip*>& clips) { timeline.selection()->select(clips); }
     void setPlayhead(qint64 frame) { timeline.playhead()->setCurrentFrame(frame); }
     qint64 playhead() const { return timeline.playhead()->currentFrame(); }
     int undoCount() const { return timeline.undoRedoService()->undoCount(); }
-    QString undoName() const { return timeline.undoRedoService()->undoName(); }
 
-    // True when the player was paused (message 7012) before the first model edit of the journal.
-    bool pausedBeforeTheModel() const
+    // The journal as one line: "scene:7012 model:moveClips".
+    QString journalText() const { return journal.entries().join(QLatin1Char(' ')); }
+
+    // What a refused command must leave alone: the undo count and the model dump, which holds the
+    // playhead and the selections.
+    QString snapshot() const { return QStringLiteral("undo steps %1\n").arg(undoCount()) + timeline.stateText(); }
+
+    // Empty when nothing changed since `before`; else the name of the one undo step made since, when the
+    // model is consistent and undoing the step gives `before` back but for the view state.
+    QString undoOneStep(const QString& before)
     {
-        const QStringList entries = journal.entries();
-        const int pause = entries.indexOf(QStringLiteral("scene:7012"));
-        for (int i = 0; i < entries.size(); ++i) {
-            if (entries.at(i).startsWith(QLatin1String("model:")))
-                return pause >= 0 && pause < i;
-        }
-        return false;
+        if (snapshot() == before)
+            return QString();
+        const QString name = timeline.undoRedoService()->undoName();
+        const QString problems = timeline.checkInvariants();
+        timeline.undoRedoService()->undo();
+        if (problems.isEmpty() && withoutView(snapshot()) == withoutView(before))
+            return name;
+        return problems + snapshot();
     }
 
-    // Index of the first journal entry equal to text, -1 when there is none.
-    int at(const QString& text) const { return journal.entries().indexOf(text); }
-
-    // What a refused command must leave untouched.
-    struct Snapshot
+    static QString withoutView(const QString& snapshot)
     {
-        QString state;
-        int undoCount = 0;
-        QList<IMvAbstractClip*> selection;
-        qint64 playhead = 0;
-        IMvMarker* selectedMarker = nullptr;
-        bool operator==(const Snapshot& other) const
-        {
-            return state == other.state && undoCount == other.undoCount && selection == other.selection;
-        }
-    };
-
-    Snapshot snapshot() const
-    {
-        return { timeline.stateText(), undoCount(), timeline.selection()->selectedItems(), playhead(),
-            timeline.markerModel()->selectedMarker() };
-    }
-
-    // Undoes the last step, puts back the view state that undo leaves alone (playhead, selections)
-    // and tells where the model dump still differs from the snapshot; empty when it is the same.
-    QString undoDiff(const Snapshot& before)
-    {
-        if (!timeline.undoRedoService()->undo())
-            return QStringLiteral("nothing to undo");
-        timeline.playhead()->setCurrentFrame(before.playhead);
-        timeline.selection()->selectItems(before.selection);
-        timeline.markerModel()->setSelectedMarker(before.selectedMarker);
-        return mvStateDiff(timeline.stateText(), before.state);
+        QStringList lines = snapshot.split(QLatin1Char('\n'));
+        lines[1] = lines.at(1).section(QLatin1String(" playhead "), 0, 0);
+        return lines.mid(0, lines.size() - 2).join(QLatin1Char('\n'));
     }
 
     MvCallJournal journal;
     Timeline timeline;
     MvRecordingScene scene;
     MvLogCapture log;
-    std::unique_ptr<Presenter> presenter;
-    int clipCount = 0;
+    std::unique_ptr<Presenter> presenter { new Presenter(nullptr, &timeline) }; // last, so it goes first
 };
 
-// The one record with this text, compared by level and function; empty when it matches.
+// Empty when the log holds one record of this text, with this level, function and file.
 inline QString mvCheckRecord(const MvLogCapture& log, const QString& text, int level, const QString& function,
     const QString& file = QStringLiteral("Src/MvTimeline/MvTimelinePresenter"))
 {
     const QList<MvLogRecord> records = log.find(text);
     if (records.size() != 1)
         return QStringLiteral("%1 records of \"%2\"").arg(records.size()).arg(text);
-    const MvLogRecord& record = records.first();
-    if (record.level != level || record.function != function || record.file != file)
-        return QStringLiteral("\"%1\": level %2, function %3, file %4")
-            .arg(text)
-            .arg(record.level)
-            .arg(record.function, record.file);
-    return QString();
+    const MvLogRecord& r = records.first();
+    const bool same = r.level == level && r.function == function && r.file == file;
+    return same ? QString() : QStringLiteral("level %1, %2, %3").arg(r.level).arg(r.function, r.file);
 }
