@@ -87,16 +87,13 @@ void tst_MvTimelinePresenterClipMove::horizontalMove()
     QCOMPARE(mvCheckRecord(f.log, QStringLiteral("horizontal move clips, frameOffset %1").arg(offset), 4,
                  QStringLiteral("MvTimelinePresenterPrivate::moveClipsHorizontal")),
         QString());
-    QCOMPARE(f.journal.entries().join(QLatin1Char(' ')), moved != 0 ? MoveJournal : QString());
+    QCOMPARE(f.journalText(), moved != 0 ? MoveJournal : QString());
     QVERIFY(f.presenter->canUpdateAction());
-    QCOMPARE(leader->start(), earliest + 20 + moved);
-    QCOMPARE(follower->start(), earliest + moved);
-    QCOMPARE(f.snapshot() != before, moved != 0);
-    if (moved == 0)
-        return;
+    QCOMPARE(QList<qint64>({ leader->start(), follower->start() }),
+        QList<qint64>({ earliest + 20 + moved, earliest + moved }));
     // The selection as it was: the follower is not added.
     QCOMPARE(f.timeline.selection()->selectedClips(), QList<IMvClip*>({ leader }));
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("move clips"));
+    QCOMPARE(f.undoOneStep(before), moved != 0 ? QStringLiteral("move clips") : QString());
 }
 
 void tst_MvTimelinePresenterClipMove::verticalMove_data()
@@ -105,11 +102,11 @@ void tst_MvTimelinePresenterClipMove::verticalMove_data()
     QTest::addColumn<int>("offset");
     QTest::addColumn<QList<int>>("rows"); // of the picture clip and the audio clip after the move, -1: none
 
-    QTest::newRow("picture first: audio opposite") << QStringLiteral("picture0,audio3") << 1 << QList<int>({ 1, 2 });
-    QTest::newRow("audio first: picture opposite") << QStringLiteral("audio2,picture1") << 1 << QList<int>({ 0, 3 });
-    QTest::newRow("audio stays below the last row") << QStringLiteral("audio3,picture1") << 1 << QList<int>({ 0, 3 });
-    QTest::newRow("picture above the first row") << QStringLiteral("picture0") << -1 << QList<int>({ 0, -1 });
-    QTest::newRow("locked target row") << QStringLiteral("picture0,lock1") << 1 << QList<int>({ 0, -1 });
+    QTest::newRow("picture first: audio opposite") << "picture0,audio3" << 1 << QList<int>({ 1, 2 });
+    QTest::newRow("audio first: picture opposite") << "audio2,picture1" << 1 << QList<int>({ 0, 3 });
+    QTest::newRow("audio stays below the last row") << "audio3,picture1" << 1 << QList<int>({ 0, 3 });
+    QTest::newRow("picture above the first row") << "picture0" << -1 << QList<int>({ 0, -1 });
+    QTest::newRow("locked target row") << "picture0,lock1" << 1 << QList<int>({ 0, -1 });
 }
 
 void tst_MvTimelinePresenterClipMove::verticalMove()
@@ -141,13 +138,10 @@ void tst_MvTimelinePresenterClipMove::verticalMove()
     QCOMPARE(mvCheckRecord(f.log, QStringLiteral("vertical move clips, trackIndexOffset %1").arg(offset), 4,
                  QStringLiteral("MvTimelinePresenterPrivate::moveClipsVertical")),
         QString());
-    QCOMPARE(f.journal.entries().join(QLatin1Char(' ')), moved ? MoveJournal : QString());
+    QCOMPARE(f.journalText(), moved ? MoveJournal : QString());
     QCOMPARE(QList<int>({ picture->trackIndex(), audio ? audio->trackIndex() : -1 }), rows);
-    QCOMPARE(f.snapshot() != before, moved);
-    if (!moved)
-        return;
     QCOMPARE(f.timeline.selection()->selectedClips(), selected);
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("move clips"));
+    QCOMPARE(f.undoOneStep(before), moved ? QStringLiteral("move clips") : QString());
 }
 
 void tst_MvTimelinePresenterClipMove::firstSelectedClipAndItsStart()
@@ -167,7 +161,6 @@ void tst_MvTimelinePresenterClipMove::firstSelectedClipAndItsStart()
 
     f.timeline.selection()->selectItems({ clip, transition });
     QCOMPARE(f.presenter->getFirstSelectedClip(), static_cast<IMvClip*>(clip));
-    QCOMPARE(moveFrom(100), qint64(100));
     QCOMPARE(moveFrom(150), qint64(150));
     // Half-open: the last frame, like any frame outside, goes back to the start.
     QCOMPARE(moveFrom(199), qint64(100));

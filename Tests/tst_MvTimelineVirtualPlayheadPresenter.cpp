@@ -9,6 +9,7 @@ using namespace MVVBLMODEL;
 
 namespace {
 const QString LogFile = QStringLiteral("Src/MvTimeline/MvTimelineVirtualPlayheadPresenter");
+const QString Function = QStringLiteral("MvTimelineVirtualPlayheadPresenter%1");
 
 // The virtual playhead of a presenter over one clip 0..299, the playhead on 40. The journal gets its
 // signals, the seeks with their frame and the other scene messages but the play-state questions.
@@ -49,15 +50,10 @@ class tst_MvTimelineVirtualPlayheadPresenter : public QObject
 
 private Q_SLOTS:
     void createdByTheTimelinePresenter();
-    void openAndClose();
-    void setVisible();
-    void playbackRefusesToShow_data();
-    void playbackRefusesToShow();
-    void playheadMoveHidesIt();
-    void playStateChanged_data();
-    void playStateChanged();
+    void openShowHideClose();
+    void requests_data();
+    void requests();
     void playStateReopensAfterAnEdit();
-    void updateEnableClosesWhereNotAllowed();
     void seekHoldsTheUnsettledFrame();
 };
 
@@ -69,9 +65,7 @@ void tst_MvTimelineVirtualPlayheadPresenter::createdByTheTimelinePresenter()
     f.presenter->initVirtualPlayheadPresenter();
     QPointer<MvTimelineVirtualPlayheadPresenter> first = f.presenter->virtualPlayheadPresenter();
     QCOMPARE(first->parent(), f.presenter.get());
-    QCOMPARE(first->timelinePresenter(), f.presenter.get());
     QCOMPARE(f.timeline.playheadImpl()->observerCount(), observers + 1);
-    QVERIFY(!f.presenter->isOpenVirtualPlayhead());
     first->open();
     QVERIFY(f.presenter->isOpenVirtualPlayhead());
 
@@ -85,147 +79,101 @@ void tst_MvTimelineVirtualPlayheadPresenter::createdByTheTimelinePresenter()
     QCOMPARE(f.timeline.playheadImpl()->observerCount(), observers);
 }
 
-void tst_MvTimelineVirtualPlayheadPresenter::openAndClose()
+void tst_MvTimelineVirtualPlayheadPresenter::openShowHideClose()
 {
     Fixture f;
+    const auto record = [&](const char* text, const char* function) {
+        return mvCheckRecord(f.log, QLatin1String(text), 4, Function.arg(QLatin1String(function)), LogFile);
+    };
     f.vp->open();
-
     QVERIFY(f.vp->isOpen() && !f.vp->visible());
-    QVERIFY(f.timeline.playheadImpl()->isVirtualOpen());
-    QVERIFY(!f.timeline.playheadImpl()->isSplitButtonVisible());
+    QVERIFY(f.timeline.playheadImpl()->isVirtualOpen() && !f.timeline.playheadImpl()->isSplitButtonVisible());
     QCOMPARE(f.scene.entries().first().type, QStringLiteral("bare"));
     QCOMPARE(f.journalText(), QStringLiteral("scene:7012 model:prepareVirtualPlayhead enableChanged"));
-    QCOMPARE(mvCheckRecord(f.log, QStringLiteral("Open Virtual Playhead"), 4,
-                 QStringLiteral("MvTimelineVirtualPlayheadPresenter::open"), LogFile),
-        QString());
+    QCOMPARE(record("Open Virtual Playhead", "::open"), QString());
 
     f.vp->setVisible(true);
-    f.setPlayhead(120);
-    f.vp->setVisible(true);
+    // A playhead move (kind 2) hides it and seeks back; an event of another kind does not.
     f.reset();
-    f.vp->close();
+    f.timeline.playhead()->setEnabled(false);
+    f.setPlayhead(77);
+    QVERIFY(!f.vp->visible());
+    QCOMPARE(f.journalText(), QStringLiteral("visibleChanged seek 77"));
+    QCOMPARE(record("Set Virtual Playhead Visible = 0", "Private::setVisible"), QString());
+    f.reset();
+    f.setPlayhead(90); // hidden: ignored
+    QVERIFY(f.journal.entries().isEmpty());
 
+    // Closed where the timeline no longer allows it: back to the real playhead; the split button
+    // stays for others to show.
+    f.vp->setVisible(true);
+    f.vp->updateEnable();
+    QVERIFY(f.vp->isOpen());
+    f.timeline.setVirtualPlayheadAllowed(false);
+    f.reset();
+    f.vp->updateEnable();
     QVERIFY(!f.vp->isOpen() && !f.vp->visible());
-    QVERIFY(!f.timeline.playheadImpl()->isVirtualOpen());
-    QCOMPARE(f.journalText(), QStringLiteral("seek %1 enableChanged").arg(f.playhead()));
-    // Closing leaves the split button to whoever shows it again.
-    QVERIFY(!f.timeline.playheadImpl()->isSplitButtonVisible());
-    QCOMPARE(mvCheckRecord(f.log, QStringLiteral("Close Virtual Playhead"), 4,
-                 QStringLiteral("MvTimelineVirtualPlayheadPresenter::close"), LogFile),
-        QString());
+    QVERIFY(!f.timeline.playheadImpl()->isVirtualOpen() && !f.timeline.playheadImpl()->isSplitButtonVisible());
+    QCOMPARE(f.journalText(), QStringLiteral("seek 40 enableChanged"));
+    QCOMPARE(record("Close Virtual Playhead", "::close"), QString());
+    f.vp->updateEnable();
+    QCOMPARE(f.journalText(), QStringLiteral("seek 40 enableChanged"));
     // It was left shown: opening again shows it at once.
     f.vp->open();
     QVERIFY(f.vp->visible());
 }
 
-void tst_MvTimelineVirtualPlayheadPresenter::setVisible()
+void tst_MvTimelineVirtualPlayheadPresenter::requests_data()
 {
-    Fixture f;
-    f.vp->open();
-    f.reset();
-
-    // Each request signals, also when nothing changes.
-    f.vp->setVisible(true);
-    f.vp->setVisible(true);
-    QVERIFY(f.vp->visible());
-    QCOMPARE(f.journalText(), QStringLiteral("visibleChanged visibleChanged"));
-    const QString function = QStringLiteral("MvTimelineVirtualPlayheadPresenterPrivate::setVisible");
-    QCOMPARE(f.log.find(QStringLiteral("Set Virtual Playhead Visible = 1")).size(), 2);
-    QCOMPARE(f.log.find(QStringLiteral("Set Virtual Playhead Visible = 1")).first().function, function);
-
-    // Hiding seeks back to the playhead.
-    f.reset();
-    f.vp->setVisible(false);
-    QVERIFY(!f.vp->visible());
-    QCOMPARE(f.journalText(), QStringLiteral("visibleChanged seek 40"));
-    QCOMPARE(mvCheckRecord(f.log, QStringLiteral("Set Virtual Playhead Visible = 0"), 4, function, LogFile), QString());
-}
-
-void tst_MvTimelineVirtualPlayheadPresenter::playbackRefusesToShow_data()
-{
-    QTest::addColumn<bool>("shownBefore");
-    QTest::addColumn<bool>("request");
-    QTest::newRow("hidden, asked to show") << false << true;
-    QTest::newRow("shown, asked to show") << true << true;
-    QTest::newRow("shown, asked to hide") << true << false;
-}
-
-void tst_MvTimelineVirtualPlayheadPresenter::playbackRefusesToShow()
-{
-    QFETCH(bool, shownBefore);
-    QFETCH(bool, request);
-
-    Fixture f;
-    f.vp->open();
-    f.vp->setVisible(shownBefore);
-    f.scene.answerWith(MessageId::IsPlayerPlaying, true);
-    f.reset();
-
-    f.vp->setVisible(request);
-
-    // While playback runs, a shown virtual playhead is hidden whatever was asked.
-    QVERIFY(!f.vp->visible());
-    QCOMPARE(f.journalText(), shownBefore ? QStringLiteral("visibleChanged seek 40") : QString());
-    const QString hidden = QStringLiteral("Set Virtual Playhead Visible = 0");
-    QCOMPARE(f.log.messages(), shownBefore ? QStringList({ hidden }) : QStringList());
-}
-
-void tst_MvTimelineVirtualPlayheadPresenter::playheadMoveHidesIt()
-{
-    Fixture f;
-    f.vp->open();
-    f.vp->setVisible(true);
-    f.reset();
-
-    f.timeline.playhead()->setEnabled(false); // an event of another kind
-    QVERIFY(f.vp->visible());
-    f.setPlayhead(77); // a move, kind 2
-    QVERIFY(!f.vp->visible());
-    QCOMPARE(f.journalText(), QStringLiteral("visibleChanged seek 77"));
-
-    // Hidden, it ignores the moves.
-    f.reset();
-    f.setPlayhead(90);
-    QVERIFY(f.journal.entries().isEmpty());
-}
-
-void tst_MvTimelineVirtualPlayheadPresenter::playStateChanged_data()
-{
-    QTest::addColumn<int>("state");
+    // A request to show or hide, or a play state, to the open (or closed) virtual playhead.
+    QTest::addColumn<QString>("request");
+    QTest::addColumn<bool>("playing");
     QTest::addColumn<bool>("open");
     QTest::addColumn<bool>("shownBefore");
-    QTest::addColumn<bool>("visibleAfter");
     QTest::addColumn<QString>("journal");
+    QTest::addColumn<bool>("visibleAfter");
 
-    QTest::newRow("stopped shows") << int(PlayState_Stopped) << true << false << true << "visibleChanged";
-    QTest::newRow("paused shows") << int(PlayState_Paused) << true << false << true << "visibleChanged";
-    QTest::newRow("playing changes nothing") << int(PlayState_Playing) << true << true << true << "";
-    QTest::newRow("finished hides and seeks twice")
-        << int(PlayState_Finished) << true << true << false << "visibleChanged seek 40 seek 40";
-    QTest::newRow("closed: ignored") << int(PlayState_Stopped) << false << false << false << "";
+    // While playback runs a request to show is dropped, and a shown virtual playhead is hidden.
+    QTest::newRow("playing, hidden, show") << "show" << true << true << false << "" << false;
+    QTest::newRow("playing, shown, show") << "show" << true << true << true << "visibleChanged seek 40" << false;
+    QTest::newRow("playing, shown, hide") << "hide" << true << true << true << "visibleChanged seek 40" << false;
+    QTest::newRow("shown, show: signals again") << "show" << false << true << true << "visibleChanged" << true;
+    QTest::newRow("stopped shows") << "state 0" << false << true << false << "visibleChanged" << true;
+    QTest::newRow("paused shows") << "state 2" << false << true << false << "visibleChanged" << true;
+    QTest::newRow("playing changes nothing") << "state 1" << false << true << true << "" << true;
+    QTest::newRow("finished hides, seeks twice")
+        << "state 3" << false << true << true << "visibleChanged seek 40 seek 40" << false;
+    QTest::newRow("closed: ignored") << "state 0" << false << false << false << "" << false;
 }
 
-void tst_MvTimelineVirtualPlayheadPresenter::playStateChanged()
+void tst_MvTimelineVirtualPlayheadPresenter::requests()
 {
-    QFETCH(int, state);
+    QFETCH(QString, request);
+    QFETCH(bool, playing);
     QFETCH(bool, open);
     QFETCH(bool, shownBefore);
-    QFETCH(bool, visibleAfter);
     QFETCH(QString, journal);
+    QFETCH(bool, visibleAfter);
 
     Fixture f;
     f.vp->open();
     f.vp->setVisible(shownBefore);
     if (!open)
         f.vp->close();
+    f.scene.answerWith(MessageId::IsPlayerPlaying, playing);
     f.reset();
 
-    f.vp->playStateChanged(state);
+    if (request.startsWith(QLatin1String("state")))
+        f.vp->playStateChanged(request.section(QLatin1Char(' '), 1).toInt());
+    else
+        f.vp->setVisible(request == QLatin1String("show"));
 
     QCOMPARE(f.vp->visible(), visibleAfter);
     QCOMPARE(f.journalText(), journal);
     QCOMPARE(f.playhead(), qint64(40));
-    QCOMPARE(f.vp->isOpen(), open);
+    // Each change of the shown state is logged.
+    const QString logged = QStringLiteral("Set Virtual Playhead Visible = %1").arg(int(visibleAfter));
+    QCOMPARE(f.log.messages(), journal.isEmpty() ? QStringList() : QStringList({ logged }));
 }
 
 void tst_MvTimelineVirtualPlayheadPresenter::playStateReopensAfterAnEdit()
@@ -243,25 +191,6 @@ void tst_MvTimelineVirtualPlayheadPresenter::playStateReopensAfterAnEdit()
     QVERIFY(!playhead->needsVirtualReopen());
     QVERIFY(playhead->isVirtualOpen());
     QVERIFY(!playhead->isSplitButtonVisible());
-}
-
-void tst_MvTimelineVirtualPlayheadPresenter::updateEnableClosesWhereNotAllowed()
-{
-    Fixture f;
-    f.timeline.setVirtualPlayheadAllowed(false);
-    f.vp->updateEnable(); // closed: nothing to do
-    QVERIFY(f.journal.entries().isEmpty());
-    f.timeline.setVirtualPlayheadAllowed(true);
-    f.vp->open();
-    f.vp->updateEnable(); // allowed: stays open
-    QVERIFY(f.vp->isOpen());
-    f.timeline.setVirtualPlayheadAllowed(false);
-    f.reset();
-
-    f.vp->updateEnable();
-
-    QVERIFY(!f.vp->isOpen());
-    QCOMPARE(f.journalText(), QStringLiteral("seek 40 enableChanged"));
 }
 
 void tst_MvTimelineVirtualPlayheadPresenter::seekHoldsTheUnsettledFrame()
