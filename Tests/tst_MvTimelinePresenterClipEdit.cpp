@@ -122,31 +122,26 @@ void tst_MvTimelinePresenterClipEdit::trimToPlayhead_data()
     // A clip 100..199 on row 0 and one on row 1, a transition at the end of the first.
     QTest::addColumn<QString>("selection");
     QTest::addColumn<qint64>("playhead");
+    QTest::addColumn<QString>("span");
     QTest::addColumn<bool>("start");
     QTest::addColumn<bool>("canTrim");
-    QTest::addColumn<QString>("span");
     QTest::addColumn<QString>("step"); // empty when refused
 
-    QTest::newRow("start") << "one" << qint64(160) << true << true << "160..199"
-                           << "trim start";
-    QTest::newRow("end") << "one" << qint64(160) << false << true << "100..160"
-                         << "trim end";
+    QTest::newRow("start") << "one" << qint64(160) << "160..199" << true << true << "trim start";
+    QTest::newRow("end") << "one" << qint64(160) << "100..160" << false << true << "trim end";
     // The menu disables it on the first frame; the model would still make a one-frame clip.
-    QTest::newRow("end from the first frame") << "one" << qint64(100) << false << false << "100..100"
-                                              << "trim end";
-    QTest::newRow("two clips selected") << "two" << qint64(160) << false << false << "100..199"
-                                        << "";
-    QTest::newRow("a transition selected") << "transition" << qint64(160) << true << false << "100..199"
-                                           << "";
+    QTest::newRow("end from the first frame") << "one" << qint64(100) << "100..100" << false << false << "trim end";
+    QTest::newRow("two clips selected") << "two" << qint64(160) << "100..199" << false << false << "";
+    QTest::newRow("a transition selected") << "transition" << qint64(160) << "100..199" << true << false << "";
 }
 
 void tst_MvTimelinePresenterClipEdit::trimToPlayhead()
 {
     QFETCH(QString, selection);
     QFETCH(qint64, playhead);
+    QFETCH(QString, span);
     QFETCH(bool, start);
     QFETCH(bool, canTrim);
-    QFETCH(QString, span);
     QFETCH(QString, step);
 
     MvEditFixture<> f;
@@ -179,25 +174,23 @@ void tst_MvTimelinePresenterClipEdit::deleteSelection_data()
     QTest::addColumn<bool>("ripple");
     QTest::addColumn<QString>("selection");
     QTest::addColumn<bool>("seekAfterDelete");
-    QTest::addColumn<qint64>("playhead");
     QTest::addColumn<QString>("journal");
+    QTest::addColumn<qint64>("playhead");
     QTest::addColumn<QString>("step"); // empty when refused
 
     // Announced, then the player paused in sync, then the model edited.
     const char* journal = "model:beginDelete scene:7036 model:deleteClips";
-    QTest::newRow("to the earliest clip") << false << "late,early" << true << qint64(40) << journal << "delete clips";
+    QTest::newRow("to the earliest clip") << false << "late,early" << true << journal << qint64(40) << "delete clips";
     QTest::newRow("to the end of a shorter timeline")
-        << false << "late,early,tail" << true << qint64(30) << journal << "delete clips";
+        << false << "late,early,tail" << true << journal << qint64(30) << "delete clips";
     QTest::newRow("nowhere when the model says so")
-        << false << "late,early" << false << qint64(180) << journal << "delete clips";
+        << false << "late,early" << false << journal << qint64(180) << "delete clips";
     QTest::newRow("a lone transition, alone")
-        << false << "transition" << true << qint64(180) << "scene:7012 model:removeTransition"
-        << "remove transition";
+        << false << "transition" << true << "scene:7012 model:removeTransition" << qint64(180) << "remove transition";
     QTest::newRow("ripple: to the first selected clip")
-        << true << "late,early" << false << qint64(100) << "scene:7012 model:rippleDeleteClips scene:9006"
+        << true << "late,early" << false << "scene:7012 model:rippleDeleteClips scene:9006" << qint64(100)
         << "ripple delete clips";
-    QTest::newRow("ripple without clips") << true << "transition" << false << qint64(180) << ""
-                                          << "";
+    QTest::newRow("ripple without clips") << true << "transition" << false << "" << qint64(180) << "";
 }
 
 void tst_MvTimelinePresenterClipEdit::deleteSelection()
@@ -205,8 +198,8 @@ void tst_MvTimelinePresenterClipEdit::deleteSelection()
     QFETCH(bool, ripple);
     QFETCH(QString, selection);
     QFETCH(bool, seekAfterDelete);
-    QFETCH(qint64, playhead);
     QFETCH(QString, journal);
+    QFETCH(qint64, playhead);
     QFETCH(QString, step);
 
     MvEditFixture<> f;
