@@ -1,7 +1,6 @@
 // The ruler and the render strip fill their rectangles one by one, snapped to device pixels,
 // instead of filling one QPainterPath. These tests paint both ways and compare every pixel.
 
-#include "IMvTimelineRenderService.h"
 #include "Memory/MvMemoryRuler.h"
 #include "MvRulerPainter_p.h"
 #include "MvScreen.h"
@@ -136,7 +135,7 @@ void tst_MvRulerPainting::fastPaintEqualsThePathFill()
     QVERIFY(!scratch.labels.isEmpty());
     compareEveryPixel(fast, reference);
 
-    // The render strip over random stretches: some reversed, some flagged only in the high bits.
+    // The render strip over random stretches, some of them reversed.
     constexpr int stripHeight = 6;
     QRandomGenerator random(42);
     QVector<MvPixelSpan> spans[2];
@@ -144,10 +143,9 @@ void tst_MvRulerPainting::fastPaintEqualsThePathFill()
     for (int i = 0; i < 3000; ++i) {
         const qint64 start = qint64(random.bounded(int(total)));
         const qint64 end = start + random.bounded(200) - 5;
-        const quint64 flag = random.bounded(3) == 0 ? quint64(1) << 32 | 1u : quint64(random.bounded(2));
+        const int kind = random.bounded(2); // 1: still to render
         if (end < start)
             continue;
-        const int kind = quint32(flag) != 0 ? 1 : 0; // only the low 32 bits count
         const MvPixelSpan span { ruler.frameToPixel(start), ruler.frameToPixel(end) };
         spans[kind].append(span);
         paths[kind].addRect(QRectF(span.x0, 0, span.x1 - span.x0, stripHeight));
