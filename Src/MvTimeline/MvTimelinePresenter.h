@@ -72,6 +72,7 @@ public:
     bool isMediaPlayerPlaying();
     void seek(qint64 frame);
 
+    void editMarker();
     void hidePropertyPanel();
     void checkHidePropertyPanel();
 

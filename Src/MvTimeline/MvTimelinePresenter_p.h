@@ -17,6 +17,7 @@ public:
 
     bool hasEmptyCap() const;
     int calcDetachAudioTrackIndex(IMvClip* clip) const;
+    void editMarker();
 
     MvTimelinePresenter* q_ptr;
     MvTimelineVirtualPlayheadPresenter* virtualPlayheadPresenter = nullptr;
