@@ -1,0 +1,320 @@
+#include "MvTimelineRulerPresenter.h"
+
+#include "IMvTimeline.h"
+#include "MvRulerGesture_p.h"
+#include "MvRulerPainter_p.h"
+#include "MvTimelinePresenter.h"
+#include "MvTimelineRulerPresenter_p.h"
+
+#include <QPainter>
+#include <QWidget>
+
+namespace {
+
+// Writes value in base 10, at least two digits, and returns the position after it.
+QChar* writePadded(QChar* out, quint64 value)
+{
+    char digits[20];
+    int count = 0;
+    do {
+        digits[count++] = char('0' + value % 10);
+        value /= 10;
+    } while (value != 0);
+    if (count < 2)
+        digits[count++] = '0';
+    while (count > 0)
+        *out++ = QLatin1Char(digits[--count]);
+    return out;
+}
+
+// The clock fields are worked out in units of 1/10000 frame so that fractional rates need no
+// floating point per frame; the rate itself is rounded once, to float, as the product always did.
+QString formatScaled(int frame, quint64 scaledRate)
+{
+    const quint64 t = quint64(qint64(frame)) * 10000u;
+    const quint64 hours = t / (scaledRate * 3600u);
+    const quint64 r1 = t % (scaledRate * 3600u);
+    const quint64 minutes = r1 / (scaledRate * 60u);
+    const quint64 r2 = r1 % (scaledRate * 60u);
+    const quint64 seconds = r2 / scaledRate;
+    const quint64 frames = (r2 % scaledRate) / 10000u;
+
+    QChar buffer[4 * 20 + 3];
+    QChar* out = writePadded(buffer, hours);
+    *out++ = QLatin1Char(':');
+    out = writePadded(out, minutes);
+    *out++ = QLatin1Char(':');
+    out = writePadded(out, seconds);
+    *out++ = QLatin1Char(':');
+    out = writePadded(out, frames);
+    return QString(buffer, int(out - buffer));
+}
+
+}
+
+MvTimelineRulerPresenterPrivate::MvTimelineRulerPresenterPrivate(MvTimelineRulerPresenter* q,
+    MvTimelinePresenter* timelinePresenter)
+    : timelinePresenter(timelinePresenter), q_ptr(q)
+{
+    IMvTimeline* timeline = timelinePresenter ? timelinePresenter->timeline() : nullptr;
+    if (!timeline)
+        return;
+    ruler = timeline->ruler();
+    if (ruler)
+        ruler->addObserver(this);
+    playhead = timeline->playhead();
+    if (playhead)
+        playhead->addObserver(this);
+}
+
+MvTimelineRulerPresenterPrivate::~MvTimelineRulerPresenterPrivate()
+{
+    if (ruler)
+        ruler->removeObserver(this);
+    if (playhead)
+        playhead->removeObserver(this);
+}
+
+void MvTimelineRulerPresenterPrivate::onRulerEvent(int kind)
+{
+    Q_Q(MvTimelineRulerPresenter);
+    switch (kind) {
+    case IMvTimelineRuler::ZoomChanged:
+        Q_EMIT q->zoomChanged();
+        break;
+    case IMvTimelineRuler::TotalFramesChanged:
+        Q_EMIT q->totalFrameChanged();
+        break;
+    case IMvTimelineRuler::VisibleRangeChanged:
+        Q_EMIT q->visualRangeChanged();
+        break;
+    case IMvTimelineRuler::FrameRateChanged:
+        Q_EMIT q->frameRateChanged();
+        break;
+    case IMvTimelineRuler::MinVisibleRangeChanged:
+        Q_EMIT q->minVisualChanged();
+        break;
+    default:
+        // The current frame is the playhead's business; its own presenter follows it.
+        break;
+    }
+}
+
+void MvTimelineRulerPresenterPrivate::onPlayheadEvent(IMvTimelinePlayhead* source, int kind)
+{
+    if (kind != IMvTimelinePlayhead::Moved || !source || !ruler)
+        return;
+    ruler->setCurrentFrame(source->currentFrame());
+}
+
+void MvTimelineRulerPresenterPrivate::beginZoom()
+{
+    if (ruler)
+        ruler->beginZoom();
+}
+
+void MvTimelineRulerPresenterPrivate::endZoom()
+{
+    if (ruler)
+        ruler->endZoom();
+}
+
+void MvTimelineRulerPresenterPrivate::zoom(int delta)
+{
+    if (ruler)
+        ruler->zoom(delta);
+}
+
+void MvTimelineRulerPresenterPrivate::changeZoomRatio(float ratio)
+{
+    if (ruler)
+        ruler->setZoomRatio(ratio);
+}
+
+float MvTimelineRulerPresenterPrivate::zoomRatio() const
+{
+    return ruler ? ruler->zoomRatio() : 0.0f;
+}
+
+float MvTimelineRulerPresenterPrivate::minZoomRatio() const
+{
+    return ruler ? ruler->minZoomRatio() : 0.0f;
+}
+
+qint64 MvTimelineRulerPresenterPrivate::totalFrames() const
+{
+    return ruler ? ruler->totalFrames() : 0;
+}
+
+qint64 MvTimelineRulerPresenterPrivate::visualFrames() const
+{
+    return ruler ? ruler->visibleFrames() : 0;
+}
+
+void MvTimelineRulerPresenterPrivate::setViewWith(int width)
+{
+    Q_Q(MvTimelineRulerPresenter);
+    if (!ruler)
+        return;
+    ruler->setViewWidth(width);
+    Q_EMIT q->sigViewWidthChanged();
+}
+
+int MvTimelineRulerPresenterPrivate::handlePosition() const
+{
+    return ruler ? ruler->frameToPixel(ruler->currentFrame()) : 0;
+}
+
+void MvTimelineRulerPresenterPrivate::changePlayheadPosition(int x)
+{
+    if (playhead)
+        playhead->setPosition(x);
+}
+
+void MvTimelineRulerPresenterPrivate::moveCurrentFrameToCenter()
+{
+    if (ruler)
+        ruler->moveCurrentFrameToCenter();
+}
+
+void MvTimelineRulerPresenterPrivate::moveRulerRange(bool backward)
+{
+    MvRulerGesture::stepCurrentFrame(ruler, backward);
+}
+
+void MvTimelineRulerPresenterPrivate::updateTimelineMenu()
+{
+    if (timelinePresenter)
+        timelinePresenter->updateAction();
+}
+
+void MvTimelineRulerPresenterPrivate::paint(QWidget* widget)
+{
+    if (!widget || !ruler)
+        return;
+    QPainter painter(widget);
+    MvRulerPainter::paint(painter, widget->rect(), widget->palette().brush(QPalette::Window), ruler, layout);
+}
+
+MvTimelineRulerPresenter::MvTimelineRulerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
+    : MvPresenter(parent), d_ptr(new MvTimelineRulerPresenterPrivate(this, timelinePresenter))
+{
+}
+
+MvTimelineRulerPresenter::~MvTimelineRulerPresenter() = default;
+
+void MvTimelineRulerPresenter::init()
+{
+    // Everything is in place once constructed; the view calls this on its first show.
+}
+
+void MvTimelineRulerPresenter::beginZoom()
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->beginZoom();
+}
+
+void MvTimelineRulerPresenter::endZoom()
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->endZoom();
+}
+
+void MvTimelineRulerPresenter::zoom(int delta)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->zoom(delta);
+}
+
+void MvTimelineRulerPresenter::changeZoomRatio(float ratio)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->changeZoomRatio(ratio);
+}
+
+float MvTimelineRulerPresenter::zoomRatio()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return d->zoomRatio();
+}
+
+float MvTimelineRulerPresenter::minZoomRatio()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return d->minZoomRatio();
+}
+
+qint64 MvTimelineRulerPresenter::totalFrames()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return d->totalFrames();
+}
+
+qint64 MvTimelineRulerPresenter::visualFrames()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return d->visualFrames();
+}
+
+void MvTimelineRulerPresenter::setViewWith(int width)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->setViewWith(width);
+}
+
+int MvTimelineRulerPresenter::handlePosition()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return d->handlePosition();
+}
+
+void MvTimelineRulerPresenter::changePlayheadPosition(int x)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->changePlayheadPosition(x);
+}
+
+void MvTimelineRulerPresenter::moveCurrentFrameToCenter()
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->moveCurrentFrameToCenter();
+}
+
+void MvTimelineRulerPresenter::moveRulerRange(bool backward)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->moveRulerRange(backward);
+}
+
+void MvTimelineRulerPresenter::updateTimelineMenu()
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->updateTimelineMenu();
+}
+
+void MvTimelineRulerPresenter::paint(QWidget* widget)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->paint(widget);
+}
+
+QString MvTimelineRulerPresenter::formatTimecode(int frame, int numerator, int denominator)
+{
+    if (numerator <= 0 || denominator <= 0)
+        return QString();
+    return formatTimecode(frame, float(double(numerator) / double(denominator)));
+}
+
+QString MvTimelineRulerPresenter::formatTimecode(int frame, float fps)
+{
+    // No time code without a rate that a clock can count in.
+    if (!(fps >= 0.0001f && fps <= 1.0e9f))
+        return QString();
+    return formatScaled(frame, quint64(fps * 10000.0f));
+}
+
+IMvTimelineRuler* MvTimelineRulerPresenter::ruler() const
+{
+    Q_D(const MvTimelineRulerPresenter);
+    return d->ruler;
+}

@@ -1,0 +1,194 @@
+#pragma once
+
+#include "IMvAbstractClip.h"
+#include "IMvClipItems.h"
+#include "MvMemoryMarker.h"
+
+#include <QMap>
+
+class MvMemoryTimeline;
+class MvMemoryTrack;
+class MvMemoryClip;
+
+using MvKeyFrameProperties = QList<MVVBLMODEL::MvEffectPropertyBaseInfo>;
+using MvKeyFrameMap = QMap<qint64, MvKeyFrameProperties>; // clip frame -> keyed properties
+
+// A transition rides on its owner clip: it covers the owner's first (AtStart) or last (AtEnd)
+// length frames, so it moves and trims with the owner.
+class MVVBLMODEL_EXPORT MvMemoryTransition : public IMvTransition
+{
+public:
+    struct State
+    {
+        MvMemoryClip* owner = nullptr;
+        quint16 placement = AtStart;
+        qint64 length = 1;
+        QString name;
+        bool attached = true;
+
+        bool operator==(const State& other) const
+        {
+            return owner == other.owner && placement == other.placement && length == other.length
+                && name == other.name && attached == other.attached;
+        }
+    };
+
+    MvMemoryTransition(int identifier, const State& state);
+
+    MVVBLMODEL::MvClipType type() const override;
+    qint64 start() const override;
+    qint64 end() const override;
+    QString name() const override;
+    IMvClip* ownerClip() const override;
+    int identifier() const override;
+    quint16 placement() const override;
+
+    qint64 length() const { return m_state.length; }
+    MvMemoryClip* owner() const { return m_state.owner; }
+    // On the timeline: attached to an owner that is on a track.
+    bool isLive() const;
+    const State& state() const { return m_state; }
+    void restore(const State& state) { m_state = state; }
+
+private:
+    Q_DISABLE_COPY(MvMemoryTransition)
+    int m_identifier;
+    State m_state;
+};
+
+class MVVBLMODEL_EXPORT MvMemoryTransitionList : public IMvTransitionList
+{
+public:
+    explicit MvMemoryTransitionList(MvMemoryClip* clip) : m_clip(clip) { }
+
+    QList<IMvTransition*> transitions() const override;
+    bool remove(int identifier, quint16 placement) override;
+
+private:
+    MvMemoryClip* m_clip;
+};
+
+class MVVBLMODEL_EXPORT MvMemoryFreezeFrameList : public IMvFreezeFrameList
+{
+public:
+    explicit MvMemoryFreezeFrameList(MvMemoryClip* clip) : m_clip(clip) { }
+
+    QList<int> ids() const override;
+    bool contains(int id) const override;
+    bool remove(int id) override;
+
+private:
+    MvMemoryClip* m_clip;
+};
+
+// The selected node is a view choice, kept out of undo; the node count is model state.
+class MVVBLMODEL_EXPORT MvMemorySmartKeyingNodes : public IMvSmartKeyingNodes
+{
+public:
+    explicit MvMemorySmartKeyingNodes(MvMemoryClip* clip) : m_clip(clip) { }
+
+    int count() const override;
+    quint64 selectedIndex() const override;
+    void setSelectedIndex(quint64 index) override;
+    void removeAt(quint64 index) override;
+
+private:
+    MvMemoryClip* m_clip;
+    quint64 m_selected = NoSelection;
+};
+
+// A clip of the in-memory model. Every value that undo restores sits in State; the clip object
+// itself lives as long as its timeline (a removed clip is detached: its track is null).
+class MVVBLMODEL_EXPORT MvMemoryClip : public IMvClip
+{
+public:
+    struct State
+    {
+        MVVBLMODEL::MvClipType type = MVVBLMODEL::ClipType_Video;
+        qint64 start = 0;
+        qint64 end = 0;
+        QString name;
+        bool enabled = true;
+        MvMemoryTrack* track = nullptr;
+        int rotation = 0;
+        MvMemoryClip* follower = nullptr;
+        bool tracking = false;
+        bool smartKeying = false;
+        int smartKeyingNodes = 0;
+        MvKeyFrameMap videoKeys;
+        MvKeyFrameMap audioKeys;
+        QMap<int, qint64> freezeFrames; // id -> clip frame
+        MvMemoryMarkerList::State markers;
+
+        bool operator==(const State& other) const;
+    };
+
+    MvMemoryClip(MvMemoryTimeline* timeline, const State& state);
+    ~MvMemoryClip() override;
+
+    // IMvAbstractClip
+    MVVBLMODEL::MvClipType type() const override;
+    qint64 start() const override;
+    qint64 end() const override;
+    QString name() const override;
+
+    // IMvClip
+    qint64 position() const override;
+    qint64 frameCount() const override;
+    bool isEnabled() const override;
+    IMvTimeline* ownerTimeline() const override;
+    IMvTrack* track() const override;
+    int trackIndex() const override;
+    int groupKind() const override;
+    int rotation() const override;
+    IMvTransitionList* transitionList() const override;
+    IMvMarkerList* clipMarkers() const override;
+    IMvFreezeFrameList* freezeFrames() const override;
+    IMvSmartKeyingNodes* smartKeyingNodes() const override;
+    IMvClip* motionTrackFollower() const override;
+    bool isMotionTrackingEnabled() const override;
+    QList<qint64> keyFrames(bool audio) const override;
+    bool addKeyFrame(bool audio, qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties) override;
+    bool canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) const override;
+    bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) override;
+    IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const override;
+
+    // Set-up and test hooks; each is an undoable edit.
+    void setName(const QString& name);
+    void setEnabled(bool enabled);
+    void setMotionTrackFollower(MvMemoryClip* follower);
+    void setMotionTrackingEnabled(bool enabled);
+    // Turns smart keying on with this many nodes (0 turns it off).
+    void setSmartKeyingNodeCount(int count);
+    // Adds a freeze frame at a clip frame; false for clips without a picture, a used id or a frame
+    // off the clip.
+    bool addFreezeFrame(int id, qint64 clipFrame);
+    qint64 freezeFrameAt(int id) const { return m_state.freezeFrames.value(id, -1); }
+    // The properties keyed at a clip frame of one side (empty when there is no keyframe).
+    MvKeyFrameProperties keyFrameProperties(bool audio, qint64 clipFrame) const;
+
+    // Which keyframe sides a clip type has.
+    static bool supportsAudioKeyFrames(MVVBLMODEL::MvClipType type);
+    static bool supportsVideoKeyFrames(MVVBLMODEL::MvClipType type);
+    static bool hasPicture(MVVBLMODEL::MvClipType type);
+
+    MvMemoryTimeline* timeline() const { return m_timeline; }
+    MvMemoryTrack* trackImpl() const { return m_state.track; }
+    bool isOnTimeline() const { return m_state.track != nullptr; }
+    MvMemoryMarkerList* markerList() const { return m_markers; }
+    QList<MvMemoryTransition*> liveTransitions() const;
+
+    // Whole value access for undo and for the timeline's edits (which record their own steps).
+    State state() const;
+    void restore(const State& state);
+    State& mutableState() { return m_state; }
+
+private:
+    Q_DISABLE_COPY(MvMemoryClip)
+    MvMemoryTimeline* m_timeline;
+    State m_state;
+    MvMemoryMarkerList* m_markers;
+    MvMemoryTransitionList* m_transitions;
+    MvMemoryFreezeFrameList* m_freezeFrames;
+    MvMemorySmartKeyingNodes* m_nodes;
+};

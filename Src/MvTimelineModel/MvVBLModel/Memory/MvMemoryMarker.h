@@ -1,0 +1,119 @@
+#pragma once
+
+#include "IMvMarker.h"
+
+#include <QColor>
+#include <QList>
+
+class MvMemoryTimeline;
+class MvMemoryClip;
+class MvMemoryMarkerList;
+
+// A marker of the in-memory model. It lives as long as its list; removing it detaches it.
+class MVVBLMODEL_EXPORT MvMemoryMarker : public IMvMarker
+{
+public:
+    struct State
+    {
+        qint64 frame = 0;
+        QColor color;
+        QString name;
+        QString comment;
+
+        bool operator==(const State& other) const
+        {
+            return frame == other.frame && color == other.color && name == other.name && comment == other.comment;
+        }
+    };
+
+    MvMemoryMarker(MvMemoryMarkerList* owner, const State& state);
+
+    IMvMarkerList* ownerList() const override;
+    qint64 frame() const override;
+    QColor color() const override;
+    QString name() const override;
+    QString comment() const override;
+    void setColor(const QColor& color) override;
+    void setName(const QString& name) override;
+    void setComment(const QString& comment) override;
+
+    const State& state() const { return m_state; }
+    void restore(const State& state) { m_state = state; }
+    bool isAttached() const;
+
+private:
+    Q_DISABLE_COPY(MvMemoryMarker)
+    MvMemoryMarkerList* m_owner;
+    State m_state;
+};
+
+// Markers of the whole timeline (own frames are timeline frames, range 0 .. duration) or of one
+// clip (own frames count from the clip's start, range start .. end). One marker per frame.
+class MVVBLMODEL_EXPORT MvMemoryMarkerList : public IMvMarkerList
+{
+public:
+    struct State
+    {
+        QList<MvMemoryMarker*> attached;      // ordered by frame
+        QList<MvMemoryMarker::State> markers; // one per marker ever created, in creation order
+
+        bool operator==(const State& other) const
+        {
+            return attached == other.attached && markers == other.markers;
+        }
+    };
+
+    MvMemoryMarkerList(MvMemoryTimeline* timeline, MvMemoryClip* clip);
+    ~MvMemoryMarkerList() override;
+
+    QList<IMvMarker*> markers() const override;
+    IMvMarker* markerAt(qint64 frame) const override;
+    bool canAddMarker(qint64 frame) const override;
+    void addMarker(qint64 frame, const QColor& color) override;
+    void removeMarker(IMvMarker* marker) override;
+    void frameRange(MvRange<qint64>& range) const override;
+    qint64 mapFromTimeline(qint64 timelineFrame) const override;
+    qint64 mapToTimeline(qint64 ownFrame) const override;
+
+    MvMemoryTimeline* timeline() const { return m_timeline; }
+    MvMemoryClip* clip() const { return m_clip; }
+    // Adds a marker with a name, as one edit; null when refused.
+    MvMemoryMarker* addNamedMarker(qint64 frame, const QColor& color, const QString& name);
+    QList<MvMemoryMarker*> attachedMarkers() const { return m_attached; }
+    bool contains(const IMvMarker* marker) const;
+
+    State state() const;
+    void restore(const State& state);
+
+    // Piece work for split and trim, called inside an edit of the owner clip: markers at own
+    // frames >= offset move into target (rebased), markers outside 0 .. lastFrame are dropped.
+    void moveTailTo(MvMemoryMarkerList* target, qint64 offset);
+    void dropOutside(qint64 firstFrame, qint64 lastFrame);
+    void shiftFrames(qint64 delta);
+
+    // An edit made through a marker of this list.
+    void markerEdit(MvMemoryMarker* marker, const char* operation, const MvMemoryMarker::State& state);
+
+private:
+    Q_DISABLE_COPY(MvMemoryMarkerList)
+    MvMemoryMarker* insert(qint64 frame, const QColor& color, const QString& name);
+
+    MvMemoryTimeline* m_timeline;
+    MvMemoryClip* m_clip;
+    QList<MvMemoryMarker*> m_all;
+    QList<MvMemoryMarker*> m_attached;
+};
+
+// Which marker is selected, on the timeline or on any clip. Selection, not an undoable edit.
+class MVVBLMODEL_EXPORT MvMemoryMarkerModel : public IMvMarkerModel
+{
+public:
+    explicit MvMemoryMarkerModel(MvMemoryTimeline* timeline);
+
+    IMvMarker* selectedMarker() const override;
+    void setSelectedMarker(IMvMarker* marker) override;
+
+private:
+    MvMemoryTimeline* m_timeline;
+    IMvMarker* m_selected = nullptr;
+};

@@ -1,0 +1,356 @@
+#include "MvMemoryRuler.h"
+
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+IMvTimelineRuler* IMvTimelineRuler::createInstance()
+{
+    return new MvMemoryRuler;
+}
+
+MvMemoryRuler::MvMemoryRuler()
+{
+    refit();
+}
+
+MvMemoryRuler::~MvMemoryRuler() = default;
+
+void MvMemoryRuler::addObserver(IMvTimelineRulerEventObserover* observer)
+{
+    if (observer && !m_observers.contains(observer))
+        m_observers.append(observer);
+}
+
+void MvMemoryRuler::removeObserver(IMvTimelineRulerEventObserover* observer)
+{
+    m_observers.removeAll(observer);
+}
+
+int MvMemoryRuler::observerCount() const
+{
+    return m_observers.size();
+}
+
+void MvMemoryRuler::setViewWidth(int width)
+{
+    width = std::max(width, 0);
+    if (width == m_viewWidth)
+        return;
+    const State before = m_state;
+    m_viewWidth = width;
+    refit();
+    notifyChanges(before);
+}
+
+int MvMemoryRuler::viewWidth() const
+{
+    return m_viewWidth;
+}
+
+void MvMemoryRuler::setTotalFrames(qint64 frames)
+{
+    frames = std::max<qint64>(frames, 0);
+    if (frames == m_state.total)
+        return;
+    const State before = m_state;
+    m_state.total = frames;
+    refit();
+    notifyChanges(before);
+}
+
+qint64 MvMemoryRuler::totalFrames() const
+{
+    return m_state.total;
+}
+
+void MvMemoryRuler::setFrameRate(int numerator, int denominator)
+{
+    // A rate that is not positive cannot map time to frames; keep the one we have.
+    if (numerator <= 0 || denominator <= 0)
+        return;
+    if (numerator == m_state.numerator && denominator == m_state.denominator)
+        return;
+    const State before = m_state;
+    m_state.numerator = numerator;
+    m_state.denominator = denominator;
+    notifyChanges(before);
+}
+
+void MvMemoryRuler::frameRate(int* numerator, int* denominator) const
+{
+    if (numerator)
+        *numerator = m_state.numerator;
+    if (denominator)
+        *denominator = m_state.denominator;
+}
+
+void MvMemoryRuler::setCurrentFrame(qint64 frame)
+{
+    const State before = m_state;
+    m_state.current = qBound<qint64>(0, frame, m_state.total);
+    // Scroll just enough to keep the frame on screen: edge scrolling then moves smoothly.
+    if (m_state.current < m_state.start)
+        m_state.start = m_state.current;
+    else if (m_state.current > m_state.start + m_state.visible)
+        m_state.start = m_state.current - m_state.visible;
+    m_state.start = clampStart(m_state.start, m_state.visible);
+    notifyChanges(before);
+}
+
+qint64 MvMemoryRuler::currentFrame() const
+{
+    return m_state.current;
+}
+
+qint64 MvMemoryRuler::visibleStartFrame() const
+{
+    return m_state.start;
+}
+
+qint64 MvMemoryRuler::visibleEndFrame() const
+{
+    return m_state.start + m_state.visible;
+}
+
+qint64 MvMemoryRuler::visibleFrames() const
+{
+    return m_state.visible;
+}
+
+void MvMemoryRuler::visualRange(qint64* start, qint64* end) const
+{
+    if (start)
+        *start = visibleStartFrame();
+    if (end)
+        *end = visibleEndFrame();
+}
+
+void MvMemoryRuler::setVisualRange(qint64 start, qint64 end)
+{
+    if (end <= start)
+        return;
+    const State before = m_state;
+    const float ratio = float(effectiveWidth() / double(end - start));
+    m_state.ratio = qBound(m_state.minRatio, ratio, maxZoomRatio());
+    m_state.visible = visibleFramesFor(m_state.ratio);
+    m_state.start = clampStart(start, m_state.visible);
+    notifyChanges(before);
+}
+
+int MvMemoryRuler::frameToPixel(qint64 frame) const
+{
+    const double x = double(frame - m_state.start) * double(m_state.ratio);
+    // Far-away frames land far outside the view, never wrap around.
+    const double limit = double(std::numeric_limits<int>::max() / 2);
+    return int(std::floor(qBound(-limit, x, limit) + 0.5));
+}
+
+qint64 MvMemoryRuler::pixelToFrame(int x) const
+{
+    return m_state.start + qint64(std::floor(double(x) / double(m_state.ratio) + 0.5));
+}
+
+int MvMemoryRuler::framesInPixels(int pixels) const
+{
+    const double frames = double(pixels) / double(m_state.ratio);
+    const double limit = double(std::numeric_limits<int>::max());
+    return int(qBound(-limit, frames, limit));
+}
+
+qint64 MvMemoryRuler::framesPerTick() const
+{
+    // Whole frames per second for tick units: 29.97 counts as 30. Rates above 1000 are not video.
+    const int nominalFps = qBound(1, qRound(double(m_state.numerator) / m_state.denominator), 1000);
+    return framesPerTickFor(double(m_state.ratio), nominalFps);
+}
+
+double MvMemoryRuler::tickSpacing() const
+{
+    return double(framesPerTick()) * double(m_state.ratio);
+}
+
+void MvMemoryRuler::setZoomRatio(float ratio)
+{
+    if (!(ratio > 0.0f))
+        return;
+    qint64 frame = 0;
+    int x = 0;
+    anchorFor(&frame, &x);
+    applyRatio(ratio, frame, x);
+}
+
+float MvMemoryRuler::zoomRatio() const
+{
+    return m_state.ratio;
+}
+
+float MvMemoryRuler::minZoomRatio() const
+{
+    return m_state.minRatio;
+}
+
+float MvMemoryRuler::maxZoomRatio() const
+{
+    return std::max(kMaxPixelsPerFrame, m_state.minRatio);
+}
+
+void MvMemoryRuler::zoom(int delta)
+{
+    if (delta == 0)
+        return;
+    qint64 frame = 0;
+    int x = 0;
+    anchorFor(&frame, &x);
+    // Negative steps (wheel up, drag right) zoom in.
+    const double factor = std::exp2(-double(delta) / kZoomUnitsPerDoubling);
+    applyRatio(float(double(m_state.ratio) * factor), frame, x);
+}
+
+void MvMemoryRuler::beginZoom()
+{
+    // Hold the anchor for the whole gesture so that rounding cannot make the view creep.
+    m_zooming = false;
+    anchorFor(&m_zoomAnchorFrame, &m_zoomAnchorX);
+    m_zooming = true;
+}
+
+void MvMemoryRuler::endZoom()
+{
+    m_zooming = false;
+}
+
+bool MvMemoryRuler::isZooming() const
+{
+    return m_zooming;
+}
+
+void MvMemoryRuler::moveCurrentFrameToCenter()
+{
+    const State before = m_state;
+    m_state.start = clampStart(m_state.current - m_state.visible / 2, m_state.visible);
+    notifyChanges(before);
+}
+
+qint64 MvMemoryRuler::framesPerTickFor(double pixelsPerFrame, int nominalFps)
+{
+    nominalFps = qBound(1, nominalFps, 1000);
+    // Round units of time in frames; each is what five ticks make.
+    QList<qint64> majors{5, 10};
+    if (nominalFps % 2 == 0)
+        majors.append(nominalFps / 2);
+    for (qint64 seconds : {1, 5, 10, 15, 30, 60, 300, 600, 900, 1800, 3600, 7200, 18000, 36000})
+        majors.append(seconds * nominalFps);
+    qint64 previous = 0;
+    for (qint64 major : qAsConst(majors)) {
+        // Only units that split into five whole-frame ticks, in increasing order.
+        if (major <= previous || major % 5 != 0)
+            continue;
+        previous = major;
+        if (double(major / 5) * pixelsPerFrame >= kMinTickSpacing)
+            return major / 5;
+    }
+    // Beyond ten hours: 20, 50, 100, 200, 500 hours and so on.
+    qint64 decade = 10;
+    while (true) {
+        for (qint64 step : {2, 5, 10}) {
+            const qint64 major = decade * step * 3600 * nominalFps;
+            if (double(major / 5) * pixelsPerFrame >= kMinTickSpacing || decade > (qint64(1) << 32))
+                return major / 5;
+        }
+        decade *= 10;
+    }
+}
+
+int MvMemoryRuler::effectiveWidth() const
+{
+    return std::max(m_viewWidth, 1);
+}
+
+float MvMemoryRuler::computeMinRatio() const
+{
+    return float(effectiveWidth() / double(std::max<qint64>(m_state.total, 1)));
+}
+
+qint64 MvMemoryRuler::visibleFramesFor(float ratio) const
+{
+    const qint64 frames = qRound64(effectiveWidth() / double(ratio));
+    return qBound<qint64>(1, frames, std::max<qint64>(m_state.total, 1));
+}
+
+qint64 MvMemoryRuler::clampStart(qint64 start, qint64 visible) const
+{
+    return qBound<qint64>(0, start, std::max<qint64>(0, m_state.total - visible));
+}
+
+void MvMemoryRuler::applyRatio(float ratio, qint64 anchorFrame, int anchorX)
+{
+    ratio = qBound(m_state.minRatio, ratio, maxZoomRatio());
+    if (ratio == m_state.ratio)
+        return;
+    const State before = m_state;
+    m_state.ratio = ratio;
+    m_state.visible = visibleFramesFor(ratio);
+    const qint64 start = anchorFrame - qint64(std::floor(double(anchorX) / double(ratio) + 0.5));
+    m_state.start = clampStart(start, m_state.visible);
+    notifyChanges(before);
+}
+
+void MvMemoryRuler::refit()
+{
+    // A ruler zoomed out all the way stays so when the length or the width changes.
+    const bool wasFit = m_state.ratio <= m_state.minRatio;
+    m_state.minRatio = computeMinRatio();
+    if (wasFit || m_state.ratio < m_state.minRatio)
+        m_state.ratio = m_state.minRatio;
+    m_state.ratio = std::min(m_state.ratio, maxZoomRatio());
+    m_state.visible = visibleFramesFor(m_state.ratio);
+    m_state.current = qBound<qint64>(0, m_state.current, m_state.total);
+    m_state.start = clampStart(m_state.start, m_state.visible);
+}
+
+void MvMemoryRuler::anchorFor(qint64* frame, int* x) const
+{
+    if (m_zooming) {
+        *frame = m_zoomAnchorFrame;
+        *x = m_zoomAnchorX;
+        return;
+    }
+    // Zoom around the current frame while it is on screen, else around the middle of the view.
+    if (m_state.current >= m_state.start && m_state.current <= visibleEndFrame()) {
+        *frame = m_state.current;
+        *x = frameToPixel(m_state.current);
+    } else {
+        *x = effectiveWidth() / 2;
+        *frame = pixelToFrame(*x);
+    }
+}
+
+void MvMemoryRuler::notifyChanges(const State& before)
+{
+    const State after = m_state;
+    if (before.total != after.total)
+        notify(TotalFramesChanged);
+    if (before.numerator != after.numerator || before.denominator != after.denominator)
+        notify(FrameRateChanged);
+    if (before.minRatio != after.minRatio)
+        notify(MinVisibleRangeChanged);
+    if (before.ratio != after.ratio)
+        notify(ZoomChanged);
+    if (before.start != after.start || before.visible != after.visible)
+        notify(VisibleRangeChanged);
+    if (before.current != after.current)
+        notify(CurrentFrameChanged);
+}
+
+void MvMemoryRuler::notify(int kind)
+{
+    // Observers may unregister (themselves or others) while being told; walk a copy.
+    const QList<IMvTimelineRulerEventObserover*> observers = m_observers;
+    for (IMvTimelineRulerEventObserover* observer : observers) {
+        if (m_observers.contains(observer))
+            observer->onRulerEvent(kind);
+    }
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "IMvSelection.h"
+
+class MvMemoryTimeline;
+
+// The selection is a view of the user's focus; it is not part of undo. It only ever holds items
+// that are on the timeline: edits and undo drop the items they take off it.
+class MVVBLMODEL_EXPORT MvMemorySelection : public IMvSelection
+{
+public:
+    explicit MvMemorySelection(MvMemoryTimeline* timeline);
+
+    void select(const QList<IMvClip*>& clips) override;
+    void selectItems(const QList<IMvAbstractClip*>& items) override;
+    void clear() override;
+    int count() const override;
+    bool isEmpty() const override;
+    QList<IMvAbstractClip*> selectedItems() const override;
+    QList<IMvClip*> selectedClips() const override;
+    IMvAbstractClip* currentItem() const override;
+    bool isTimelineSelected() const override;
+    void setTimelineSelected(bool selected) override;
+
+    // Drops items that are no longer on the timeline; true when something was dropped.
+    bool prune();
+    // For invariant tests: stores items without any check.
+    void setItemsUnchecked(const QList<IMvAbstractClip*>& items) { m_items = items; }
+
+private:
+    MvMemoryTimeline* m_timeline;
+    QList<IMvAbstractClip*> m_items;
+    bool m_timelineSelected = false;
+};
+
+class MVVBLMODEL_EXPORT MvMemorySubItemSelection : public IMvSubItemSelection
+{
+public:
+    bool selectedId(int& id) const override;
+    void select(int id) override;
+    void clear() override;
+
+private:
+    bool m_hasSelection = false;
+    int m_id = 0;
+};

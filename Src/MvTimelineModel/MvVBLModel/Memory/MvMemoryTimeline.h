@@ -1,0 +1,141 @@
+#pragma once
+
+#include "IMvTimeline.h"
+#include "MvMemoryModelState.h"
+
+#include <QScopedPointer>
+#include <QStringList>
+
+class MvCallJournal;
+class MvMemoryEditService;
+class MvMemoryKeyFrameClipboard;
+class MvMemoryKeyFrameSelector;
+class MvMemoryMarkerModel;
+class MvMemoryPlayhead;
+class MvMemorySelection;
+class MvMemorySubItemSelection;
+class MvMemoryTimelinePrivate;
+class MvMemoryUndoService;
+
+// A complete timeline held in memory: tracks, clips, transitions, groups, markers, keyframes,
+// freeze frames, playhead, ruler, render service and undo. Every object it hands out lives as
+// long as the timeline, so presenters may keep pointers across undo and redo.
+//
+// Model rules:
+// - a clip covers start() .. end(), both included; the duration is the last end plus one;
+// - a cut at f divides a clip when start < f <= end: the clip keeps start .. f-1 and a new clip
+//   takes f .. end (joining the source's group, taking its keyframes, markers and freeze frames
+//   from f on, and its end transition);
+// - a locked track refuses every edit of its clips;
+// - every edit is an undo step of its own unless a step is open, in which case it joins it;
+// - building calls (addTrack, addClip, addTransition) made outside a step are not undoable: they
+//   clear the undo history, which no longer describes the model; inside a step they join it;
+// - selection, marker selection, keyframe selection, sub-item selection, playhead and row heights
+//   are view state and stay out of undo.
+class MVVBLMODEL_EXPORT MvMemoryTimeline : public IMvTimeline
+{
+public:
+    // Wraps one model edit: records it in the journal and keeps it inside an undo step (its own
+    // step unless one is open). Whatever it changed is checked (selection, duration) on close.
+    class MVVBLMODEL_EXPORT Edit
+    {
+    public:
+        Edit(const MvMemoryTimeline* timeline, const char* operation, const QString& stepName);
+        ~Edit();
+
+    private:
+        Q_DISABLE_COPY(Edit)
+        MvMemoryTimeline* m_timeline;
+    };
+
+    explicit MvMemoryTimeline(int kind = 0);
+    ~MvMemoryTimeline() override;
+
+    // IMvTimeline
+    int kind() const override;
+    qint64 duration() const override;
+    int trackCount() const override;
+    IMvTrack* trackAt(int index) const override;
+    IMvTrack* firstTrackOfType(MVVBLMODEL::MvTrackType type) const override;
+    IMvTrack* lastTrackOfType(MVVBLMODEL::MvTrackType type) const override;
+    bool deleteClips(QList<IMvClip*> clips) override;
+    bool rippleDeleteClips(QList<IMvClip*> clips) override;
+    bool moveClips(QList<IMvClip*> clips, QList<int> trackOffsets, qint64 frameOffset, int mode) override;
+    void splitClips(QList<IMvClip*>& newClips, QList<IMvClip*> clips, qint64 frame) override;
+    bool trimStartToFrame(IMvClip* clip, qint64 frame) override;
+    bool trimEndToFrame(IMvClip* clip, qint64 frame) override;
+    void beginDelete() override;
+    bool isSeekAfterDelete() const override;
+    void rotateClip90CW(IMvClip* clip) override;
+    void rotateClip90CCW(IMvClip* clip) override;
+    IMvClipEditService* editService() const override;
+    IMvSelection* selection() const override;
+    IMvSubItemSelection* subItemSelection() const override;
+    IMvMarkerModel* markerModel() const override;
+    IMvMarkerList* timelineMarkers() const override;
+    IMvTimelinePlayhead* playhead() const override;
+    IMvTimelineRuler* ruler() const override;
+    IMvUndoRedoService* undoRedoService() const override;
+    IMvTimelineRenderService* renderService() const override;
+    IMvKeyFrameSelector* keyFrameSelector() const override;
+    IMvKeyFrameClipboard* keyFrameClipboard() const override;
+    void smartKeyingClips(QList<IMvClip*>& clips) const override;
+    bool virtualPlayheadAllowed() const override;
+    void prepareVirtualPlayhead() override;
+
+    // Building the project.
+    MvMemoryTrack* addTrack(MVVBLMODEL::MvTrackType type);
+    MvMemoryClip* addClip(int trackIndex, MVVBLMODEL::MvClipType type, qint64 start, qint64 end, const QString& name);
+    MvMemoryTransition* addTransition(MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name);
+    void setFrameRate(int numerator, int denominator);
+    MVVBLMODEL::MvFrameRate frameRate() const;
+
+    // Answers a test or host can force.
+    void setSeekAfterDelete(bool seek);
+    void setVirtualPlayheadAllowed(bool allowed);
+    void setJournal(MvCallJournal* journal);
+    MvCallJournal* journal() const;
+    int beginDeleteCount() const;
+
+    // Concrete objects.
+    MvMemoryPlayhead* playheadImpl() const;
+    MvMemoryUndoService* undoService() const;
+    MvMemorySelection* selectionImpl() const;
+    MvMemorySubItemSelection* subItemSelectionImpl() const;
+    MvMemoryEditService* editServiceImpl() const;
+    MvMemoryMarkerModel* markerModelImpl() const;
+    MvMemoryMarkerList* timelineMarkerList() const;
+    MvMemoryKeyFrameSelector* keyFrameSelectorImpl() const;
+    MvMemoryKeyFrameClipboard* keyFrameClipboardImpl() const;
+    MvMemoryTrack* memoryTrack(int index) const;
+    // Clips on the timeline, track by track from the top, each track by start.
+    QList<MvMemoryClip*> liveClips() const;
+    // Every clip ever created, detached ones included, in creation order.
+    QList<MvMemoryClip*> allClips() const;
+    QList<MvMemoryGroup> groups() const;
+
+    // Checks and dumps for tests: empty when the model is consistent, else what is wrong.
+    QString checkInvariants() const;
+    QString stateText() const;
+
+    // Used by the model's own objects.
+    int indexOfTrack(const MvMemoryTrack* track) const;
+    int groupKindOf(const MvMemoryClip* clip) const;
+    QList<MvMemoryClip*> groupMembers(const MvMemoryClip* clip) const;
+    void setGroups(const QList<MvMemoryGroup>& groups); // inside an Edit
+    bool isLive(const IMvAbstractClip* item) const;
+    bool isLiveMarker(const IMvMarker* marker) const;
+    MvMemoryClip* memoryClip(IMvClip* clip) const; // null unless the clip is this timeline's
+    int nextTransitionIdentifier();
+    // Attached transitions of a clip, the start one first.
+    QList<MvMemoryTransition*> transitionsOf(const MvMemoryClip* clip) const;
+
+protected:
+    // Factory of the render service, so a test host can put its own in place.
+    virtual IMvTimelineRenderService* createRenderService();
+
+private:
+    Q_DECLARE_PRIVATE(MvMemoryTimeline)
+    Q_DISABLE_COPY(MvMemoryTimeline)
+    QScopedPointer<MvMemoryTimelinePrivate> d_ptr;
+};

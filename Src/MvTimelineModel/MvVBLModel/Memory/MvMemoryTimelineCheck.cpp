@@ -1,0 +1,229 @@
+// Consistency check and full-state dump of the in-memory timeline, for tests and the demo log.
+#include "IMvTimelineRuler.h"
+#include "MvMemoryKeyFrames.h"
+#include "MvMemoryPlayhead.h"
+#include "MvMemorySelection.h"
+#include "MvMemoryTimeline.h"
+#include "MvMemoryTimeline_p.h"
+#include "MvMemoryUndoService.h"
+
+#include <QSet>
+
+namespace {
+QString num(qint64 value)
+{
+    return QString::number(value);
+}
+
+QString keysText(const MvKeyFrameMap& keys)
+{
+    QStringList parts;
+    for (auto it = keys.cbegin(); it != keys.cend(); ++it) {
+        QStringList properties;
+        for (const MVVBLMODEL::MvEffectPropertyBaseInfo& info : it.value())
+            properties.append(num(info.group) % QLatin1Char(':') % num(info.propertyId));
+        parts.append(num(it.key()) % QLatin1Char('{') % properties.join(QLatin1Char(',')) % QLatin1Char('}'));
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+QString markersText(const MvMemoryMarkerList* list)
+{
+    QStringList parts;
+    const QList<MvMemoryMarker*> markers = list->attachedMarkers();
+    for (const MvMemoryMarker* marker : markers) {
+        parts.append(num(marker->frame()) % QLatin1Char(' ') % marker->color().name() % QLatin1String(" \"")
+            % marker->name() % QLatin1String("\" \"") % marker->comment() % QLatin1Char('"'));
+    }
+    return parts.join(QLatin1String("; "));
+}
+
+void checkMarkers(const MvMemoryMarkerList* list, const QString& owner, QStringList& problems)
+{
+    MvRange<qint64> range;
+    list->frameRange(range);
+    const QList<MvMemoryMarker*> markers = list->attachedMarkers();
+    for (int i = 0; i < markers.size(); ++i) {
+        const qint64 at = list->mapToTimeline(markers.at(i)->frame());
+        if (!range.contains(at))
+            problems.append(owner % QLatin1String(": marker at ") % num(at) % QLatin1String(" outside its range"));
+        if (i > 0 && markers.at(i - 1)->frame() >= markers.at(i)->frame())
+            problems.append(owner % QLatin1String(": markers not ordered or two on one frame"));
+    }
+}
+}
+
+QString MvMemoryTimelinePrivate::clipId(const MvMemoryClip* clip) const
+{
+    if (!clip)
+        return QStringLiteral("-");
+    return QLatin1Char('c') % num(allClips.indexOf(const_cast<MvMemoryClip*>(clip)));
+}
+
+void MvMemoryTimelinePrivate::checkTracks(QStringList& problems) const
+{
+    bool audioSeen = false;
+    for (int row = 0; row < tracks.size(); ++row) {
+        const MvMemoryTrack* track = tracks.at(row);
+        const QString name = QLatin1String("track ") % num(row);
+        if (track->index() != row)
+            problems.append(name % QLatin1String(": index() disagrees"));
+        if (track->type() == MVVBLMODEL::TrackType_Audio)
+            audioSeen = true;
+        else if (audioSeen)
+            problems.append(name % QLatin1String(": picture row below an audio row"));
+        const QList<MvMemoryClip*> clips = track->memoryClips();
+        for (int i = 0; i < clips.size(); ++i) {
+            const MvMemoryClip* clip = clips.at(i);
+            const QString what = name % QLatin1Char(' ') % clipId(clip);
+            if (clip->trackImpl() != track || clip->trackIndex() != row)
+                problems.append(what % QLatin1String(": back reference disagrees"));
+            if (clip->start() < 0 || clip->end() < clip->start())
+                problems.append(what % QLatin1String(": invalid range"));
+            if (!track->accepts(clip->type()))
+                problems.append(what % QLatin1String(": type not allowed on this row"));
+            if (i > 0 && clips.at(i - 1)->end() >= clip->start())
+                problems.append(what % QLatin1String(": overlaps or out of order"));
+        }
+    }
+}
+
+void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
+{
+    QSet<const MvMemoryClip*> grouped;
+    for (const MvMemoryClip* clip : allClips) {
+        if (clip->isOnTimeline() && !clip->trackImpl()->memoryClips().contains(const_cast<MvMemoryClip*>(clip)))
+            problems.append(clipId(clip) % QLatin1String(": not in its track's list"));
+        if (clip->isOnTimeline() && !tracks.contains(clip->trackImpl()))
+            problems.append(clipId(clip) % QLatin1String(": on a track that is not on the timeline"));
+        if (!clip->isOnTimeline())
+            continue;
+        const qint64 last = clip->frameCount() - 1;
+        for (bool audio : { false, true }) {
+            const QList<qint64> keys = clip->keyFrames(audio);
+            if (!keys.isEmpty() && (keys.first() < 0 || keys.last() > last))
+                problems.append(clipId(clip) % QLatin1String(": keyframe off the clip"));
+        }
+        const QList<int> ids = clip->state().freezeFrames.keys();
+        for (int id : ids) {
+            if (clip->freezeFrameAt(id) < 0 || clip->freezeFrameAt(id) > last)
+                problems.append(clipId(clip) % QLatin1String(": freeze frame off the clip"));
+        }
+        if (!MvMemoryClip::hasPicture(clip->type()) && !ids.isEmpty())
+            problems.append(clipId(clip) % QLatin1String(": freeze frame on a clip without picture"));
+        checkMarkers(clip->markerList(), clipId(clip), problems);
+    }
+    for (const MvMemoryGroup& group : groups) {
+        if (group.members.size() < 2)
+            problems.append(QStringLiteral("a group with fewer than two members"));
+        for (const MvMemoryClip* member : group.members) {
+            if (!member->isOnTimeline())
+                problems.append(clipId(member) % QLatin1String(": grouped but not on the timeline"));
+            if (grouped.contains(member))
+                problems.append(clipId(member) % QLatin1String(": in two groups"));
+            grouped.insert(member);
+        }
+    }
+    for (const MvMemoryTransition* transition : allTransitions) {
+        if (!transition->isLive())
+            continue;
+        if (transition->length() < 1 || transition->length() > transition->owner()->frameCount())
+            problems.append(QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
+    }
+}
+
+void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
+{
+    Q_Q(const MvMemoryTimeline);
+    const QList<IMvAbstractClip*> items = selection->selectedItems();
+    for (int i = 0; i < items.size(); ++i) {
+        if (!q->isLive(items.at(i)))
+            problems.append(QStringLiteral("selection holds an item that is not on the timeline"));
+        if (items.indexOf(items.at(i)) != i)
+            problems.append(QStringLiteral("selection holds an item twice"));
+    }
+    checkMarkers(timelineMarkers, QStringLiteral("timeline"), problems);
+    const qint64 length = q->duration();
+    if (playhead->currentFrame() < 0 || playhead->currentFrame() > length)
+        problems.append(QStringLiteral("playhead outside the timeline"));
+    if (ruler) {
+        if (ruler->totalFrames() != length)
+            problems.append(QStringLiteral("ruler length differs from the duration"));
+        if (ruler->visibleStartFrame() < 0 || ruler->visibleStartFrame() > qMax<qint64>(length, 0))
+            problems.append(QStringLiteral("visible range outside the timeline"));
+    }
+    if (undo->isStepOpen())
+        problems.append(QStringLiteral("an undo step is left open"));
+}
+
+QString MvMemoryTimeline::checkInvariants() const
+{
+    Q_D(const MvMemoryTimeline);
+    QStringList problems;
+    d->checkTracks(problems);
+    d->checkClips(problems);
+    d->checkItems(problems);
+    return problems.join(QLatin1Char('\n'));
+}
+
+QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
+{
+    Q_Q(const MvMemoryTimeline);
+    const MvMemoryClip::State state = clip->state();
+    QString text = QLatin1String("  ") % clipId(clip) % QLatin1String(" type=") % num(state.type) % QLatin1String(" \"")
+        % state.name % QLatin1String("\" ") % num(state.start) % QLatin1String("..") % num(state.end)
+        % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=")
+        % num(q->groupKindOf(clip)) % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=")
+        % num(state.enabled) % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=")
+        % num(state.tracking) % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
+    text += QLatin1String("\n    markers: ") % markersText(clip->markerList());
+    text += QLatin1String("\n    video keys: ") % keysText(state.videoKeys);
+    text += QLatin1String("\n    audio keys: ") % keysText(state.audioKeys);
+    QStringList freeze;
+    for (auto it = state.freezeFrames.cbegin(); it != state.freezeFrames.cend(); ++it)
+        freeze.append(num(it.key()) % QLatin1Char('@') % num(it.value()));
+    text += QLatin1String("\n    freeze frames: ") % freeze.join(QLatin1Char(' '));
+    const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
+    for (const MvMemoryTransition* transition : transitions) {
+        text += QLatin1String("\n    transition ") % num(transition->identifier()) % QLatin1String(" at ")
+            % num(transition->placement()) % QLatin1Char(' ') % num(transition->start()) % QLatin1String("..")
+            % num(transition->end()) % QLatin1String(" \"") % transition->name() % QLatin1Char('"');
+    }
+    return text;
+}
+
+QString MvMemoryTimeline::stateText() const
+{
+    Q_D(const MvMemoryTimeline);
+    QStringList lines;
+    lines.append(QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ")
+        % num(d->playhead->currentFrame()));
+    for (int row = 0; row < d->tracks.size(); ++row) {
+        const MvMemoryTrack* track = d->tracks.at(row);
+        lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
+            % QLatin1String(" locked=") % num(track->isLocked()));
+        const QList<MvMemoryClip*> clips = track->memoryClips();
+        for (const MvMemoryClip* clip : clips)
+            lines.append(d->clipText(clip));
+    }
+    for (const MvMemoryGroup& group : d->groups) {
+        QStringList members;
+        for (const MvMemoryClip* member : group.members)
+            members.append(d->clipId(member));
+        lines.append(QLatin1String("group kind=") % num(group.kind) % QLatin1String(": ") % members.join(QLatin1Char(' ')));
+    }
+    lines.append(QLatin1String("timeline markers: ") % markersText(d->timelineMarkers));
+    QStringList selected;
+    const QList<IMvAbstractClip*> items = d->selection->selectedItems();
+    for (const IMvAbstractClip* item : items) {
+        if (const auto* clip = dynamic_cast<const MvMemoryClip*>(item))
+            selected.append(d->clipId(clip));
+        else if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(item))
+            selected.append(QLatin1Char('t') % num(transition->identifier()));
+    }
+    lines.append(QLatin1String("selection: ") % selected.join(QLatin1Char(' ')) % QLatin1String(" timeline=")
+        % num(d->selection->isTimelineSelected()));
+    const IMvMarker* marker = d->markerModel->selectedMarker();
+    lines.append(QLatin1String("selected marker: ") % (marker ? num(marker->frame()) : QStringLiteral("-")));
+    return lines.join(QLatin1Char('\n'));
+}

@@ -1,0 +1,69 @@
+#include "MvSampleProject.h"
+
+#include "IMvTimelinePlayhead.h"
+#include "MvMemoryClip.h"
+#include "MvMemoryEditService.h"
+#include "MvMemoryTimeline.h"
+#include "MvMemoryUndoService.h"
+
+#include <QColor>
+
+using namespace MVVBLMODEL;
+
+namespace {
+const qint64 kSecond = 30;
+
+QList<MvEffectPropertyBaseInfo> transformKeys()
+{
+    return { MvEffectPropertyBaseInfo { PropertyGroup_Transform, QString(), false, -1, 3 },
+        MvEffectPropertyBaseInfo { PropertyGroup_Transform, QString(), false, -1, 5 } };
+}
+
+QList<MvEffectPropertyBaseInfo> volumeKeys()
+{
+    return { MvEffectPropertyBaseInfo { PropertyGroup_AudioVolume, QString(), false, -1, 22 } };
+}
+}
+
+void MvSampleProject::build(MvMemoryTimeline& timeline)
+{
+    timeline.setFrameRate(30, 1);
+    for (int i = 0; i < 3; ++i)
+        timeline.addTrack(TrackType_Picture);
+    for (int i = 0; i < 2; ++i)
+        timeline.addTrack(TrackType_Audio);
+
+    // Rows: 0 titles and stickers, 1 overlays, 2 the main story, 3 its sound, 4 music.
+    MvMemoryClip* opening = timeline.addClip(2, ClipType_VideoWithAudio, 0, 20 * kSecond - 1, QStringLiteral("Harbour at dawn"));
+    MvMemoryClip* openingSound = timeline.addClip(3, ClipType_Audio, 0, 20 * kSecond - 1, QStringLiteral("Harbour at dawn (sound)"));
+    MvMemoryClip* street = timeline.addClip(2, ClipType_Video, 20 * kSecond, 45 * kSecond - 1, QStringLiteral("Market street"));
+    MvMemoryClip* still = timeline.addClip(2, ClipType_Image, 45 * kSecond, 55 * kSecond - 1, QStringLiteral("Old map"));
+    timeline.addClip(2, ClipType_Video, 55 * kSecond, 90 * kSecond - 1, QStringLiteral("Fishing boats"));
+    MvMemoryClip* screen = timeline.addClip(2, ClipType_ScreenRecording, 90 * kSecond, 118 * kSecond - 1, QStringLiteral("Route planner"));
+    timeline.addClip(0, ClipType_Title, 2 * kSecond, 8 * kSecond - 1, QStringLiteral("A day by the sea"));
+    MvMemoryClip* caption = timeline.addClip(0, ClipType_Text, 25 * kSecond, 32 * kSecond - 1, QStringLiteral("Lower third"));
+    timeline.addClip(0, ClipType_Sticker, 60 * kSecond, 64 * kSecond - 1, QStringLiteral("Seagull"));
+    timeline.addClip(1, ClipType_Image, 70 * kSecond, 80 * kSecond - 1, QStringLiteral("Logo"));
+    timeline.addClip(1, ClipType_Subtitle, 92 * kSecond, 100 * kSecond - 1, QStringLiteral("Subtitles"));
+    MvMemoryClip* music = timeline.addClip(4, ClipType_Music, 0, 118 * kSecond - 1, QStringLiteral("Theme"));
+    timeline.addClip(3, ClipType_SoundEffect, 50 * kSecond, 52 * kSecond - 1, QStringLiteral("Waves"));
+
+    timeline.addTransition(street, IMvTransition::AtStart, kSecond, QStringLiteral("Cross dissolve"));
+    timeline.editServiceImpl()->group({ opening, openingSound }, 1);
+
+    timeline.timelineMarkers()->addMarker(10 * kSecond, QColor(QStringLiteral("#e5484d")));
+    timeline.timelineMarkers()->addMarker(60 * kSecond, QColor(QStringLiteral("#30a46c")));
+    street->clipMarkers()->addMarker(5 * kSecond, QColor(QStringLiteral("#0091ff")));
+
+    opening->addKeyFrame(false, 0, transformKeys());
+    opening->addKeyFrame(false, 4 * kSecond, transformKeys());
+    caption->addKeyFrame(false, kSecond, transformKeys());
+    music->addKeyFrame(true, 110 * kSecond, volumeKeys());
+    music->addKeyFrame(true, 117 * kSecond, volumeKeys());
+    still->addFreezeFrame(1, 3 * kSecond);
+    screen->setSmartKeyingNodeCount(3);
+    caption->setMotionTrackingEnabled(true);
+
+    timeline.undoService()->clear();
+    timeline.playhead()->setCurrentFrame(0);
+}

@@ -1,0 +1,162 @@
+#include "MvClipHelpers.h"
+
+#include "IMvAbstractClip.h"
+#include "IMvClipEditService.h"
+#include "IMvSelection.h"
+#include "IMvTimeline.h"
+#include "IMvTimelinePlayhead.h"
+#include "IMvTrack.h"
+#include "IMvUndoRedoService.h"
+
+namespace {
+bool cuttable(const IMvClip* clip)
+{
+    return clip && clip->track() && !clip->track()->isLocked();
+}
+
+bool supportsSide(MVVBLMODEL::MvClipType type, bool audio)
+{
+    using namespace MVVBLMODEL;
+    static const QList<MvClipType> audioTypes { ClipType_VideoWithAudio, ClipType_ScreenRecording, ClipType_Music,
+        ClipType_Compound, ClipType_SoundEffect, ClipType_Audio };
+    static const QList<MvClipType> videoTypes { ClipType_Video, ClipType_VideoWithAudio, ClipType_ScreenRecording,
+        ClipType_Compound, ClipType_Image, ClipType_Text, ClipType_Sticker, ClipType_Subtitle, ClipType_Adjustment,
+        ClipType_Filter, ClipType_Effect, ClipType_Title };
+    return (audio ? audioTypes : videoTypes).contains(type);
+}
+}
+
+// The selection decides when it holds clips under the cut; with nothing selected, the cut goes
+// through everything under it.
+QList<IMvClip*> IMvClipHelper::findClips(IMvTimeline* timeline, qint64 frame)
+{
+    if (!timeline)
+        return {};
+    const QList<IMvClip*> under = MvClipFinder(timeline).findClips(frame);
+    const QList<IMvClip*> selected = timeline->selection() ? timeline->selection()->selectedClips() : QList<IMvClip*>();
+    if (selected.isEmpty())
+        return under;
+    QList<IMvClip*> found;
+    for (IMvClip* clip : selected) {
+        if (under.contains(clip))
+            found.append(clip);
+    }
+    return found;
+}
+
+QList<IMvClip*> IMvClipHelper::findPrepareSplitClip(QList<IMvClip*> clips, bool addPartners)
+{
+    QList<IMvClip*> prepared;
+    for (IMvClip* clip : qAsConst(clips)) {
+        if (!cuttable(clip) || prepared.contains(clip))
+            continue;
+        prepared.append(clip);
+        IMvTimeline* timeline = clip->ownerTimeline();
+        if (!addPartners || clip->groupKind() != 1 || !timeline || !timeline->editService())
+            continue;
+        // A linked partner (picture and its sound) is cut together with its clip.
+        QList<IMvClip*> partners;
+        timeline->editService()->groupMembersOf(clip, partners, false);
+        for (IMvClip* partner : qAsConst(partners)) {
+            if (cuttable(partner) && !prepared.contains(partner))
+                prepared.append(partner);
+        }
+    }
+    return prepared;
+}
+
+MvClipFinder::MvClipFinder(IMvTimeline* timeline) : m_timeline(timeline) { }
+
+QList<IMvClip*> MvClipFinder::findClips(qint64 frame) const
+{
+    QList<IMvClip*> found;
+    if (!m_timeline)
+        return found;
+    for (int row = 0; row < m_timeline->trackCount(); ++row) {
+        IMvTrack* track = m_timeline->trackAt(row);
+        if (!track)
+            continue;
+        const QList<IMvClip*> clips = track->clips();
+        for (IMvClip* clip : clips) {
+            if (clip->start() < frame && frame <= clip->end())
+                found.append(clip);
+        }
+    }
+    return found;
+}
+
+void MvMotionTrackHelper::setTimeline(IMvTimeline* timeline)
+{
+    m_timeline = timeline;
+}
+
+// Only clips of the bound timeline (any timeline while none is bound) are asked.
+IMvClip* MvMotionTrackHelper::getFollower(IMvClip* clip) const
+{
+    if (!clip || (m_timeline && clip->ownerTimeline() != m_timeline))
+        return nullptr;
+    return clip->motionTrackFollower();
+}
+
+bool MvMotionTrackHelper::isTracingEnable(IMvClip* clip) const
+{
+    if (!clip || (m_timeline && clip->ownerTimeline() != m_timeline))
+        return false;
+    return clip->isMotionTrackingEnabled();
+}
+
+MvKeyFrameHelper2::MvKeyFrameHelper2(IMvClip* clip) : m_clip(clip) { }
+
+bool MvKeyFrameHelper2::addKeyFrame(qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties)
+{
+    if (!m_clip || properties.isEmpty())
+        return false;
+    QList<MVVBLMODEL::MvEffectPropertyBaseInfo> audio;
+    QList<MVVBLMODEL::MvEffectPropertyBaseInfo> video;
+    for (const MVVBLMODEL::MvEffectPropertyBaseInfo& info : properties)
+        (info.group == MVVBLMODEL::PropertyGroup_AudioVolume ? audio : video).append(info);
+    IMvTimeline* timeline = m_clip->ownerTimeline();
+    MvUndoRedoCommander step(timeline ? timeline->undoRedoService() : nullptr, QStringLiteral("add key frame"),
+        QStringLiteral("MvKeyFrameHelper2::addKeyFrame"));
+    bool added = true;
+    if (!audio.isEmpty())
+        added = m_clip->addKeyFrame(true, clipFrame, audio) && added;
+    if (!video.isEmpty())
+        added = m_clip->addKeyFrame(false, clipFrame, video) && added;
+    return added;
+}
+
+void MvKeyFrameHelper2::gotoKeyFrame(qint64 clipFrame)
+{
+    if (!m_clip || !m_clip->ownerTimeline() || !m_clip->ownerTimeline()->playhead())
+        return;
+    m_clip->ownerTimeline()->playhead()->setCurrentFrame(mapToTimeline(m_clip, clipFrame));
+}
+
+bool MvKeyFrameHelper2::canAddKeyFrame(IMvClip* clip, qint64 timelineFrame, bool mustBeInside, bool audio)
+{
+    if (!clip || !clip->track() || !supportsSide(clip->type(), audio))
+        return false;
+    qint64 clipFrame = mapFromTimeline(clip, timelineFrame);
+    if (clipFrame < 0 || clipFrame >= clip->frameCount()) {
+        if (mustBeInside)
+            return false;
+        clipFrame = qBound<qint64>(0, clipFrame, clip->frameCount() - 1);
+    }
+    return !clip->keyFrames(audio).contains(clipFrame);
+}
+
+qint64 MvKeyFrameHelper2::mapFromTimeline(IMvClip* clip, qint64 timelineFrame)
+{
+    return clip ? timelineFrame - clip->start() : timelineFrame;
+}
+
+qint64 MvKeyFrameHelper2::mapToTimeline(IMvClip* clip, qint64 clipFrame)
+{
+    return clip ? clipFrame + clip->start() : clipFrame;
+}
+
+qint64 MvKeyFrameHelper2::mapFormBelongTimeline(IMvClip* clip, qint64 frame)
+{
+    return mapFromTimeline(clip, frame);
+}
