@@ -1,5 +1,9 @@
+#include "IMvAbstractClip.h"
 #include "IMvMarker.h"
+#include "IMvSelection.h"
+#include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
+#include "IMvUndoRedoService.h"
 #include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryMarker.h"
 #include "Memory/MvMemorySelection.h"
@@ -294,6 +298,21 @@ void tst_MvTimelinePresenterMarkerEdit::noMarkerUnderThePlayheadOpensNothing()
     QCOMPARE(records.first().level, 16);
     QCOMPARE(records.first().function, QStringLiteral("MvTimelinePresenterPrivate::editMarker"));
     QVERIFY(project.scene.ids().isEmpty());
+
+    // A single selected item that is not a clip takes no marker, so none is edited either, even
+    // with a timeline marker under the playhead.
+    MvMemoryTransition* transition = project.timeline.addTransition(project.clip, IMvTransition::AtEnd, 10,
+        QStringLiteral("fade"));
+    QVERIFY(transition);
+    project.timeline.selection()->selectItems({ transition });
+    project.playheadAt(300);
+    DialogScript second;
+    second.action = clickOk;
+    arm(second);
+    project.presenter.editMarker();
+    QCoreApplication::processEvents();
+    QVERIFY(!second.opened);
+    QCOMPARE(log.find(QStringLiteral("no marker at playhead")).size(), 2);
 
     MvTimelinePresenter noTimeline(nullptr, nullptr);
     noTimeline.editMarker();
