@@ -89,8 +89,8 @@ void tst_MvFramelessDialog::titleBarDragsTheDialog()
     QMouseEvent move(QEvent::MouseMove, QPointF(80, 30), QPointF(dialog.mapToGlobal(QPoint(50, 10)) + QPoint(30, 20)),
         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&dialog, &move);
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(80, 30), move.globalPos(), Qt::LeftButton,
-        Qt::NoButton, Qt::NoModifier);
+    QMouseEvent release(
+        QEvent::MouseButtonRelease, QPointF(80, 30), move.globalPos(), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(&dialog, &release);
     QCOMPARE(dialog.pos(), start + QPoint(30, 20));
 }

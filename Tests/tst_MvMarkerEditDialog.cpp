@@ -48,8 +48,8 @@ public:
         if (qstrcmp(context, "MvMarkerEditPanel") != 0)
             return QString();
         const QString source = QString::fromLatin1(sourceText);
-        if (source == QLatin1String("Comment") || source == QLatin1String("Marker Color") ||
-            source == QLatin1String("Name") || source == QLatin1String("Time"))
+        if (source == QLatin1String("Comment") || source == QLatin1String("Marker Color")
+            || source == QLatin1String("Name") || source == QLatin1String("Time"))
             return source + QStringLiteral(" in a much longer translated wording");
         return QString();
     }
@@ -134,8 +134,8 @@ void tst_MvMarkerEditDialog::okReturnsTheEditedValues()
         MvTextEdit* comment = modal->panel()->commentEdit();
         QTest::mouseClick(comment->closeButton(), Qt::LeftButton);
         QTest::keyClicks(comment, QStringLiteral("fade"));
-        QTest::mouseClick(modal->panel()->colorRow()->findChild<QWidget*>(QStringLiteral("colorCell0")),
-            Qt::LeftButton);
+        QTest::mouseClick(
+            modal->panel()->colorRow()->findChild<QWidget*>(QStringLiteral("colorCell0")), Qt::LeftButton);
         QTest::mouseClick(modal->okButton(), Qt::LeftButton);
     });
     QCOMPARE(dialog.exec(), 1);

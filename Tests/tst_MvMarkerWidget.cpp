@@ -24,7 +24,10 @@ QImage solid(const QColor& color, const QSize& size = QSize(11, 14))
 class ListPresenter : public MvMarkerPresenter
 {
 public:
-    ListPresenter() : MvMarkerPresenter(nullptr, nullptr) { }
+    ListPresenter()
+        : MvMarkerPresenter(nullptr, nullptr)
+    {
+    }
     QList<MarkerItem> markerList() override
     {
         ++listCalls;
@@ -38,13 +41,13 @@ public:
 class HostMarkerWidget : public MvMarkerWidget
 {
 public:
-    using MvMarkerWidget::MvMarkerWidget;
     using MvMarkerWidget::m_floating1;
     using MvMarkerWidget::m_floating2;
     using MvMarkerWidget::m_floatingX;
     using MvMarkerWidget::m_hoverIndex;
     using MvMarkerWidget::m_pressIndex;
     using MvMarkerWidget::m_pressVisible;
+    using MvMarkerWidget::MvMarkerWidget;
     int paints = 0;
 
     QImage grab()

@@ -28,8 +28,8 @@ private Q_SLOTS:
 void tst_MvTextEdit::factoryAppliesEveryOption()
 {
     QWidget parent;
-    MvTextEdit* edit = MvTextEdit::creatTextEdit(&parent, QStringLiteral("abc"), 10, true, true,
-        QStringLiteral("Type here"));
+    MvTextEdit* edit
+        = MvTextEdit::creatTextEdit(&parent, QStringLiteral("abc"), 10, true, true, QStringLiteral("Type here"));
     QCOMPARE(edit->parentWidget(), &parent);
     QCOMPARE(edit->toPlainText(), QStringLiteral("abc"));
     QCOMPARE(edit->maxLength(), 10);

@@ -210,8 +210,7 @@ void tst_MvTimelinePlayheadWidget::hitTest_data()
     QTest::newRow("button edge") << 67 << QPoint(119, 101) << int(MvTimelinePlayheadWidget::SplitButton);
     QTest::newRow("beyond the button") << 67 << QPoint(120, 84) << int(MvTimelinePlayheadWidget::None);
     QTest::newRow("head over raised button") << 0 << QPoint(100, 5) << int(MvTimelinePlayheadWidget::Playhead);
-    QTest::newRow("raised button beside the head") << 0 << QPoint(85, 5)
-                                                   << int(MvTimelinePlayheadWidget::SplitButton);
+    QTest::newRow("raised button beside the head") << 0 << QPoint(85, 5) << int(MvTimelinePlayheadWidget::SplitButton);
 }
 
 void tst_MvTimelinePlayheadWidget::hitTest()

@@ -48,8 +48,8 @@ struct Project
     }
     MvMemoryMarker* timelineMarker(qint64 frame, int paletteIndex, const QString& name)
     {
-        return timeline.timelineMarkerList()->addNamedMarker(frame, MvMarkerPresenter::markerPalette().at(paletteIndex),
-            name);
+        return timeline.timelineMarkerList()->addNamedMarker(
+            frame, MvMarkerPresenter::markerPalette().at(paletteIndex), name);
     }
     MvMemoryMarker* clipMarker(qint64 ownFrame, const QString& name)
     {
@@ -166,7 +166,8 @@ void tst_MvTimelinePresenterMarkerEdit::okAppliesNameColourAndCommentAsOneStep()
     QCOMPARE(marker->color(), MvMarkerPresenter::markerPalette().at(3));
     QCOMPARE(project.undoCount(), steps + 1);
     QCOMPARE(project.timeline.undoRedoService()->undoName(), QStringLiteral("edit marker"));
-    QCOMPARE(project.timeline.undoRedoService()->undoSource(), QStringLiteral("MvTimelinePresenterPrivate::editMarker"));
+    QCOMPARE(
+        project.timeline.undoRedoService()->undoSource(), QStringLiteral("MvTimelinePresenterPrivate::editMarker"));
     QCOMPARE(project.timeline.checkInvariants(), QString());
 
     QVERIFY(project.timeline.undoRedoService()->undo());
@@ -247,10 +248,9 @@ void tst_MvTimelinePresenterMarkerEdit::listIsChosenLikeAddMarker_data()
     QTest::newRow("nothing selected") << QStringLiteral("none") << qint64(150) << QStringLiteral("T");
     QTest::newRow("clip selected, playhead on it") << QStringLiteral("clip") << qint64(150) << QStringLiteral("C");
     QTest::newRow("clip selected, on its last frame") << QStringLiteral("clip") << qint64(200) << QStringLiteral("C");
-    QTest::newRow("clip selected, playhead after it") << QStringLiteral("clip") << qint64(201)
-                                                      << QStringLiteral("T");
-    QTest::newRow("clip selected, timeline flag") << QStringLiteral("clip+timeline") << qint64(150)
-                                                  << QStringLiteral("T");
+    QTest::newRow("clip selected, playhead after it") << QStringLiteral("clip") << qint64(201) << QStringLiteral("T");
+    QTest::newRow("clip selected, timeline flag")
+        << QStringLiteral("clip+timeline") << qint64(150) << QStringLiteral("T");
     QTest::newRow("two clips selected") << QStringLiteral("two") << qint64(150) << QStringLiteral("T");
 }
 
@@ -301,8 +301,8 @@ void tst_MvTimelinePresenterMarkerEdit::noMarkerUnderThePlayheadOpensNothing()
 
     // A single selected item that is not a clip takes no marker, so none is edited either, even
     // with a timeline marker under the playhead.
-    MvMemoryTransition* transition = project.timeline.addTransition(project.clip, IMvTransition::AtEnd, 10,
-        QStringLiteral("fade"));
+    MvMemoryTransition* transition
+        = project.timeline.addTransition(project.clip, IMvTransition::AtEnd, 10, QStringLiteral("fade"));
     QVERIFY(transition);
     project.timeline.selection()->selectItems({ transition });
     project.playheadAt(300);
@@ -345,8 +345,7 @@ void tst_MvTimelinePresenterMarkerEdit::timeCodeFollowsTheRulerRate_data()
     QTest::newRow("25 fps") << 25 << 1 << qint64(3724) << QStringLiteral("00:02:28:24");
     QTest::newRow("30 fps, frame 0") << 30 << 1 << qint64(0) << QStringLiteral("00:00:00:00");
     QTest::newRow("29.97 counts as 30") << 30000 << 1001 << qint64(1799) << QStringLiteral("00:00:59:29");
-    QTest::newRow("24 fps, past an hour") << 24 << 1 << qint64(86400 + 24 * 61 + 5)
-                                          << QStringLiteral("01:01:01:05");
+    QTest::newRow("24 fps, past an hour") << 24 << 1 << qint64(86400 + 24 * 61 + 5) << QStringLiteral("01:01:01:05");
 }
 
 void tst_MvTimelinePresenterMarkerEdit::timeCodeFollowsTheRulerRate()

@@ -13,7 +13,8 @@ constexpr int kCellGap = 8;
 }
 
 MvMarkerEditColor::MvMarkerEditColor(const QList<QColor>& colors, QWidget* parent)
-    : MvWidget(parent), m_colors(colors)
+    : MvWidget(parent)
+    , m_colors(colors)
 {
     for (int i = 0; i < m_colors.size(); ++i) {
         auto* cell = new QWidget(this);

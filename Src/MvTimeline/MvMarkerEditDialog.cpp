@@ -13,7 +13,8 @@ constexpr int kDialogWidth = 480;
 constexpr int kDialogHeight = 330;
 }
 
-MvMarkerEditDialog::MvMarkerEditDialog(const MvMarkerParam& param, QWidget* parent) : MvFramelessDialog(parent)
+MvMarkerEditDialog::MvMarkerEditDialog(const MvMarkerParam& param, QWidget* parent)
+    : MvFramelessDialog(parent)
 {
     setTitle(tr("Marker Editor"));
     m_panel = new MvMarkerEditPanel(param, this);

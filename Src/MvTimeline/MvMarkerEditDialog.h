@@ -1,8 +1,8 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "MvFramelessDialog.h"
 #include "MvMarkerParam.h"
+#include "MvTimelineGlobal.h"
 
 class MvMarkerEditPanel;
 class QPushButton;
@@ -14,7 +14,12 @@ class MVTIMELINE_EXPORT MvMarkerEditDialog : public MvFramelessDialog
     Q_OBJECT
 
 public:
-    enum Result { Closed = 0, Applied = 1, Deleted = 2 };
+    enum Result
+    {
+        Closed = 0,
+        Applied = 1,
+        Deleted = 2
+    };
 
     MvMarkerEditDialog(const MvMarkerParam& param, QWidget* parent);
     ~MvMarkerEditDialog() override;

@@ -33,7 +33,8 @@ MvLabel* makeLabel(QWidget* parent, const QString& objectName, Qt::Alignment ali
 }
 }
 
-MvMarkerEditPanel::MvMarkerEditPanel(const MvMarkerParam& param, QWidget* parent) : MvWidget(parent)
+MvMarkerEditPanel::MvMarkerEditPanel(const MvMarkerParam& param, QWidget* parent)
+    : MvWidget(parent)
 {
     m_nameLabel = makeLabel(this, QStringLiteral("nameLabel"), Qt::AlignRight | Qt::AlignVCenter);
     m_nameEdit = MvTextEdit::creatTextEdit(this, param.name, kMaxTextLength, true, true);

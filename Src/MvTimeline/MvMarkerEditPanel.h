@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "MvMarkerParam.h"
+#include "MvTimelineGlobal.h"
 #include "MvWidget.h"
 
 class MvLabel;

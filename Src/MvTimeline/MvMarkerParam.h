@@ -8,8 +8,8 @@
 struct MvMarkerParam
 {
     QList<QColor> colors; // swatches offered, in display order
-    int colorIndex = -1;  // index into colors of the marker's colour, -1 for none
+    int colorIndex = -1; // index into colors of the marker's colour, -1 for none
     QString name;
     QString comment;
-    QString time;         // already formatted; shown, not edited
+    QString time; // already formatted; shown, not edited
 };

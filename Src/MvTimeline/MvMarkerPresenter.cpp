@@ -1,7 +1,8 @@
 #include "MvMarkerPresenter.h"
 
 MvMarkerPresenter::MvMarkerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
-    : MvPresenter(parent), m_timelinePresenter(timelinePresenter)
+    : MvPresenter(parent)
+    , m_timelinePresenter(timelinePresenter)
 {
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "MvPresenter.h"
+#include "MvTimelineGlobal.h"
 
 #include <QColor>
 #include <QImage>

@@ -13,7 +13,8 @@ void drawMarker(QPainter& painter, const QImage& image, int x)
 }
 }
 
-MvMarkerWidget::MvMarkerWidget(MvMarkerPresenter* presenter, QWidget* parent) : MvWidget(parent)
+MvMarkerWidget::MvMarkerWidget(MvMarkerPresenter* presenter, QWidget* parent)
+    : MvWidget(parent)
 {
     setPresenter(presenter);
 }

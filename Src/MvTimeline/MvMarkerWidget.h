@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "MvMarkerPresenter.h"
+#include "MvTimelineGlobal.h"
 #include "MvWidget.h"
 
 #include <QList>
@@ -40,7 +40,7 @@ protected:
     bool m_pressVisible = false;
     bool m_floating1 = false;
     bool m_floating2 = false;
-    int m_floatingX = 0;  // where the floating hovered marker and the pressed marker are drawn
+    int m_floatingX = 0; // where the floating hovered marker and the pressed marker are drawn
     int m_hoverIndex = -1;
     int m_pressIndex = -1;
 

@@ -30,7 +30,8 @@ bool repaintsPlayhead(int kind)
 
 MvTimelinePlayheadPresenterPrivate::MvTimelinePlayheadPresenterPrivate(
     MvTimelinePlayheadPresenter* q, MvTimelinePresenter* timelinePresenter)
-    : q_ptr(q), timelinePresenter(timelinePresenter)
+    : q_ptr(q)
+    , timelinePresenter(timelinePresenter)
 {
 }
 
@@ -93,7 +94,8 @@ int MvTimelinePlayheadPresenterPrivate::clampedSplitButtonY(int requested) const
 }
 
 MvTimelinePlayheadPresenter::MvTimelinePlayheadPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
-    : MvPresenter(parent), d_ptr(new MvTimelinePlayheadPresenterPrivate(this, timelinePresenter))
+    : MvPresenter(parent)
+    , d_ptr(new MvTimelinePlayheadPresenterPrivate(this, timelinePresenter))
 {
     Q_D(MvTimelinePlayheadPresenter);
     d->registerObservers();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "MvPresenter.h"
 #include "MvRange.h"
+#include "MvTimelineGlobal.h"
 #include "MvWidgetsGlobal.h"
 
 #include <QColor>
@@ -21,9 +21,9 @@ struct MvPlayheadData
 {
     // The head: a pentagon 14 px wide, relative to the playhead's x and the top of the view,
     // pointing down at (0, 16).
-    QPolygon shape = QPolygon(QVector<QPoint> { QPoint(-7, 0), QPoint(7, 0), QPoint(7, 8), QPoint(0, 16),
-        QPoint(-7, 8) });
-    int lineTop = 12;  // y where the line starts
+    QPolygon shape
+        = QPolygon(QVector<QPoint> { QPoint(-7, 0), QPoint(7, 0), QPoint(7, 8), QPoint(0, 16), QPoint(-7, 8) });
+    int lineTop = 12; // y where the line starts
     int lineWidth = 2; // pen width of the line
     QMap<MVWIDGETS::MvWidgetStyleStatus, QColor> colors;
     // One status for the split button, the line colour and the head image.
@@ -33,8 +33,8 @@ struct MvPlayheadData
     struct SplitButton
     {
         QSize size = QSize(40, 35);
-        int minY = 0;      // the highest the button may go
-        int y = 35 + 32;   // the button's top
+        int minY = 0; // the highest the button may go
+        int y = 35 + 32; // the button's top
     } splitButton;
 
     QRect viewRect; // the playhead widget's rectangle

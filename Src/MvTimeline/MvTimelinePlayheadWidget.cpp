@@ -24,7 +24,8 @@ bool isSingleDragButton(Qt::MouseButtons buttons)
 }
 
 MvTimelinePlayheadWidget::MvTimelinePlayheadWidget(MvTimelinePlayheadPresenter* presenter, QWidget* parent)
-    : MvWidget(parent), m_presenter(presenter)
+    : MvWidget(parent)
+    , m_presenter(presenter)
 {
     // The host hands us the events of the widget underneath; Qt must not deliver its own.
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -125,8 +126,8 @@ void MvTimelinePlayheadWidget::drawSplitButton(QPainter* painter)
     if (image.isNull())
         return;
     painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
-    painter->drawImage(QRectF(m_presenter->splitButtonRect()), image, QRectF(QPointF(0, 0), QSizeF(image.size())),
-        Qt::AutoColor);
+    painter->drawImage(
+        QRectF(m_presenter->splitButtonRect()), image, QRectF(QPointF(0, 0), QSizeF(image.size())), Qt::AutoColor);
 }
 
 void MvTimelinePlayheadWidget::paintEvent(QPaintEvent* event)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "IMvEventFilter.h"
+#include "MvTimelineGlobal.h"
 #include "MvWidget.h"
 #include "MvWidgetsGlobal.h"
 
@@ -24,7 +24,12 @@ class MVTIMELINE_EXPORT MvTimelinePlayheadWidget : public MvWidget, public IMvEv
     Q_OBJECT
 
 public:
-    enum FItemType { None = 0, Playhead = 1, SplitButton = 2 };
+    enum FItemType
+    {
+        None = 0,
+        Playhead = 1,
+        SplitButton = 2
+    };
 
     MvTimelinePlayheadWidget(MvTimelinePlayheadPresenter* presenter, QWidget* parent);
     ~MvTimelinePlayheadWidget() override;

@@ -19,7 +19,7 @@
 namespace {
 constexpr int kNominalRateWithoutRuler = 30;
 
-#define MV_MARKER_EDIT_LOG(level, message)                                                                         \
+#define MV_MARKER_EDIT_LOG(level, message)                                                                             \
     MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelinePresenter", "MvTimelinePresenterPrivate::editMarker", message)
 
 // "HH:MM:SS:FF", non-drop: frames are counted at the nominal rate (29.97 counts as 30), which is
@@ -113,7 +113,8 @@ void MvTimelinePresenterPrivate::editMarker()
     const MvMarkerParam edited = dialog.markerParam();
     if (edited.name != marker->name())
         marker->setName(edited.name);
-    if (edited.colorIndex >= 0 && edited.colorIndex < palette.size() && palette.at(edited.colorIndex) != marker->color())
+    if (edited.colorIndex >= 0 && edited.colorIndex < palette.size()
+        && palette.at(edited.colorIndex) != marker->color())
         marker->setColor(palette.at(edited.colorIndex));
     if (edited.comment != marker->comment())
         marker->setComment(edited.comment);

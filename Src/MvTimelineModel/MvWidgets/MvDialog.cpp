@@ -6,7 +6,8 @@
 #include <QScreen>
 #include <QShowEvent>
 
-MvDialog::MvDialog(QWidget* parent, Qt::WindowFlags flags) : QDialog(parent, flags)
+MvDialog::MvDialog(QWidget* parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags)
 {
     QPalette pal = palette();
     pal.setColor(QPalette::Window, MvSkinStyle::GetColor(MvSkinColor::Background_Primary()));

@@ -17,7 +17,10 @@ constexpr int kTitleMargin = 16;
 constexpr int kCloseButtonSide = 24;
 }
 
-MvFramelessDialogPrivate::MvFramelessDialogPrivate(MvFramelessDialog* q) : q_ptr(q) { }
+MvFramelessDialogPrivate::MvFramelessDialogPrivate(MvFramelessDialog* q)
+    : q_ptr(q)
+{
+}
 
 void MvFramelessDialogPrivate::layoutChildren()
 {
@@ -32,7 +35,8 @@ void MvFramelessDialogPrivate::layoutChildren()
 }
 
 MvFramelessDialog::MvFramelessDialog(QWidget* parent)
-    : MvDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), d_ptr(new MvFramelessDialogPrivate(this))
+    : MvDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    , d_ptr(new MvFramelessDialogPrivate(this))
 {
     Q_D(MvFramelessDialog);
     d->titleLabel = new MvLabel(this);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvWidgetsGlobal.h"
 #include "MvDialog.h"
+#include "MvWidgetsGlobal.h"
 
 #include <QScopedPointer>
 

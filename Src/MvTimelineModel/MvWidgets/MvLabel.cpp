@@ -3,9 +3,15 @@
 #include <QPainter>
 #include <QStyle>
 
-MvLabel::MvLabel(QWidget* parent) : QLabel(parent) { }
+MvLabel::MvLabel(QWidget* parent)
+    : QLabel(parent)
+{
+}
 
-MvLabel::MvLabel(const QString& text, QWidget* parent) : QLabel(text, parent) { }
+MvLabel::MvLabel(const QString& text, QWidget* parent)
+    : QLabel(text, parent)
+{
+}
 
 MvLabel::~MvLabel() = default;
 
@@ -37,6 +43,6 @@ void MvLabel::paintEvent(QPaintEvent* event)
         return;
     }
     QPainter painter(this);
-    style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(), displayText(),
-        foregroundRole());
+    style()->drawItemText(
+        &painter, contentsRect(), int(alignment()), palette(), isEnabled(), displayText(), foregroundRole());
 }

@@ -10,7 +10,9 @@ constexpr int kButtonHeight = 32;
 constexpr int kBarHeight = 64;
 }
 
-MvPushButtonBar::MvPushButtonBar(QWidget* parent) : MvWidget(parent), d_ptr(new MvPushButtonBarPrivate)
+MvPushButtonBar::MvPushButtonBar(QWidget* parent)
+    : MvWidget(parent)
+    , d_ptr(new MvPushButtonBarPrivate)
 {
     Q_D(MvPushButtonBar);
     d->layout = new QHBoxLayout(this);

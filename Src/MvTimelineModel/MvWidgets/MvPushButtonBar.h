@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvWidgetsGlobal.h"
 #include "MvWidget.h"
+#include "MvWidgetsGlobal.h"
 
 #include <QList>
 #include <QScopedPointer>

@@ -27,7 +27,8 @@ QString toSingleLine(QString text)
 }
 }
 
-MvTextEditCloseButton::MvTextEditCloseButton(QWidget* parent) : QAbstractButton(parent)
+MvTextEditCloseButton::MvTextEditCloseButton(QWidget* parent)
+    : QAbstractButton(parent)
 {
     setCursor(Qt::ArrowCursor);
     setFocusPolicy(Qt::NoFocus);
@@ -52,7 +53,10 @@ void MvTextEditCloseButton::paintEvent(QPaintEvent* event)
     painter.drawLine(cross.topRight(), cross.bottomLeft());
 }
 
-MvTextEditPrivate::MvTextEditPrivate(MvTextEdit* q) : q_ptr(q) { }
+MvTextEditPrivate::MvTextEditPrivate(MvTextEdit* q)
+    : q_ptr(q)
+{
+}
 
 void MvTextEditPrivate::onContentsChange(int position, int removed, int added)
 {
@@ -94,8 +98,8 @@ void MvTextEditPrivate::updateCloseButton()
     Q_Q(MvTextEdit);
     const int x = q->width() - kCloseButtonRightOffset;
     // One line: centred on it; several lines: in the bottom corner, clear of the first line.
-    const int y = singleLine ? (q->height() - kCloseButtonSide) / 2
-                             : q->height() - kCloseButtonSide - kCloseButtonBottomGap;
+    const int y
+        = singleLine ? (q->height() - kCloseButtonSide) / 2 : q->height() - kCloseButtonSide - kCloseButtonBottomGap;
     closeButton->setGeometry(x, std::max(0, y), kCloseButtonSide, kCloseButtonSide);
     closeButton->setVisible(closeButtonWanted && !q->isReadOnly() && !q->document()->isEmpty());
 }
@@ -113,7 +117,9 @@ void MvTextEditPrivate::updateMargins()
     q->setViewportMargins(0, top, rightMargin, 0);
 }
 
-MvTextEdit::MvTextEdit(QWidget* parent) : QPlainTextEdit(parent), d_ptr(new MvTextEditPrivate(this))
+MvTextEdit::MvTextEdit(QWidget* parent)
+    : QPlainTextEdit(parent)
+    , d_ptr(new MvTextEditPrivate(this))
 {
     Q_D(MvTextEdit);
     d->closeButton = new MvTextEditCloseButton(this);
