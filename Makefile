@@ -30,7 +30,7 @@ bench: deps
 asan: deps
 	@cmake --preset asan > /dev/null
 	@cmake --build build/asan -j $(JOBS)
-	@cd build/asan && ctest --output-on-failure -j $(JOBS)
+	@cd build/asan && LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp ctest --output-on-failure -j $(JOBS)
 
 install: build
 	@cmake --install build/dev --prefix $(or $(PREFIX),build/install)

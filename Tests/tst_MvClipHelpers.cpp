@@ -151,7 +151,8 @@ void tst_MvClipHelpers::canAddKeyFrame_data()
     QTest::newRow("past the end") << ClipType_Video << false << qint64(200) << true << false;
     QTest::newRow("past the end, clamped onto a free frame") << ClipType_Video << false << qint64(200) << false << true;
     QTest::newRow("existing keyframe") << ClipType_Video << false << qint64(110) << true << false;
-    QTest::newRow("before, clamped onto an existing keyframe") << ClipType_Image << false << qint64(20) << false << false;
+    QTest::newRow("before, clamped onto an existing keyframe")
+        << ClipType_Image << false << qint64(20) << false << false;
 }
 
 void tst_MvClipHelpers::canAddKeyFrame()

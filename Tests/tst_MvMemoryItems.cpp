@@ -36,6 +36,7 @@ private Q_SLOTS:
     void markerPlacement_data();
     void markerPlacement();
     void markerEditsAreUndoable();
+    void timelineMarkersOutliveAShorterTimeline();
     void selectedMarkerFollowsTheModel();
     void freezeFramesBelongToPictureClips();
     void subItemSelectionKeepsOneId();
@@ -83,6 +84,17 @@ void tst_MvMemoryItems::markerPlacement()
     QCOMPARE(list->mapFromTimeline(150), onClip ? qint64(50) : qint64(150));
     QCOMPARE(list->mapToTimeline(50), onClip ? qint64(150) : qint64(50));
     QCOMPARE(p.timeline->checkInvariants(), QString());
+}
+
+void tst_MvMemoryItems::timelineMarkersOutliveAShorterTimeline()
+{
+    Project p;
+    p.timeline->timelineMarkers()->addMarker(450, Qt::red);
+    QVERIFY(p.timeline->deleteClips({ p.m }));
+    QCOMPARE(p.timeline->duration(), qint64(310));
+    QCOMPARE(p.timeline->timelineMarkers()->markers().size(), 1);
+    QCOMPARE(p.timeline->checkInvariants(), QString());
+    QVERIFY(!p.timeline->timelineMarkers()->canAddMarker(450));
 }
 
 void tst_MvMemoryItems::markerEditsAreUndoable()

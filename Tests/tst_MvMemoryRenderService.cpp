@@ -27,12 +27,12 @@ using Segments = QList<MvRenderSegment>;
 
 MvRenderSegment done(qint64 start, qint64 end)
 {
-    return {start, end, 0};
+    return { start, end, 0 };
 }
 
 MvRenderSegment pending(qint64 start, qint64 end)
 {
-    return {start, end, 1};
+    return { start, end, 1 };
 }
 }
 
@@ -56,7 +56,7 @@ private Q_SLOTS:
 void tst_MvMemoryRenderService::setSegmentsKeepsTheListAsGiven()
 {
     MvMemoryRenderService service;
-    const Segments given{done(50, 80), pending(10, 5), pending(60, 70)};
+    const Segments given { done(50, 80), pending(10, 5), pending(60, 70) };
     service.setSegments(given);
     Segments out;
     service.segments(out);
@@ -73,19 +73,18 @@ void tst_MvMemoryRenderService::markingRewritesTheList_data()
     QTest::addColumn<bool>("unfinished");
     QTest::addColumn<Segments>("expected");
 
-    QTest::newRow("into an empty list") << Segments() << qint64(0) << qint64(99) << true << Segments{pending(0, 99)};
-    QTest::newRow("splits a stretch") << Segments{pending(0, 99)} << qint64(40) << qint64(59) << false
-                                      << Segments{pending(0, 39), done(40, 59), pending(60, 99)};
-    QTest::newRow("merges with touching neighbours")
-        << Segments{done(0, 9), pending(10, 19), done(20, 29)} << qint64(10) << qint64(19) << false
-        << Segments{done(0, 29)};
+    QTest::newRow("into an empty list") << Segments() << qint64(0) << qint64(99) << true << Segments { pending(0, 99) };
+    QTest::newRow("splits a stretch") << Segments { pending(0, 99) } << qint64(40) << qint64(59) << false
+                                      << Segments { pending(0, 39), done(40, 59), pending(60, 99) };
+    QTest::newRow("merges with touching neighbours") << Segments { done(0, 9), pending(10, 19), done(20, 29) }
+                                                     << qint64(10) << qint64(19) << false << Segments { done(0, 29) };
     QTest::newRow("covers several stretches")
-        << Segments{done(0, 9), pending(20, 29), done(40, 49)} << qint64(5) << qint64(44) << true
-        << Segments{done(0, 4), pending(5, 44), done(45, 49)};
-    QTest::newRow("sorts what it was given") << Segments{done(100, 120), done(0, 10)} << qint64(50) << qint64(60)
-                                             << true << Segments{done(0, 10), pending(50, 60), done(100, 120)};
-    QTest::newRow("drops reversed stretches") << Segments{pending(30, 20)} << qint64(0) << qint64(0) << false
-                                              << Segments{done(0, 0)};
+        << Segments { done(0, 9), pending(20, 29), done(40, 49) } << qint64(5) << qint64(44) << true
+        << Segments { done(0, 4), pending(5, 44), done(45, 49) };
+    QTest::newRow("sorts what it was given") << Segments { done(100, 120), done(0, 10) } << qint64(50) << qint64(60)
+                                             << true << Segments { done(0, 10), pending(50, 60), done(100, 120) };
+    QTest::newRow("drops reversed stretches")
+        << Segments { pending(30, 20) } << qint64(0) << qint64(0) << false << Segments { done(0, 0) };
 }
 
 void tst_MvMemoryRenderService::markingRewritesTheList()
@@ -119,8 +118,8 @@ void tst_MvMemoryRenderService::changesAreToldOnlyWhenTheListChanges()
     service.addObserver(&recorder);
     service.markUnfinished(0, 99);
     service.markUnfinished(10, 20); // already pending
-    service.setSegments({pending(0, 99)});
-    QCOMPARE(recorder.calls, QStringList{QStringLiteral("segments")});
+    service.setSegments({ pending(0, 99) });
+    QCOMPARE(recorder.calls, QStringList { QStringLiteral("segments") });
     service.clearSegments();
     service.clearSegments();
     QCOMPARE(recorder.calls.size(), 2);
@@ -130,12 +129,12 @@ void tst_MvMemoryRenderService::changesAreToldOnlyWhenTheListChanges()
 void tst_MvMemoryRenderService::renderNextWorksThroughThePendingStretches()
 {
     MvMemoryRenderService service;
-    service.setSegments({pending(100, 149), done(0, 99), pending(200, 209)});
+    service.setSegments({ pending(100, 149), done(0, 99), pending(200, 209) });
     QCOMPARE(service.unfinishedFrames(), qint64(60));
     RenderRecorder recorder;
     service.addObserver(&recorder);
     QCOMPARE(service.renderNext(30), qint64(30));
-    QCOMPARE(service.segmentList(), (Segments{done(0, 129), pending(130, 149), pending(200, 209)}));
+    QCOMPARE(service.segmentList(), (Segments { done(0, 129), pending(130, 149), pending(200, 209) }));
     QCOMPARE(service.renderNext(100), qint64(20));
     QCOMPARE(service.renderNext(0), qint64(0));
     QVERIFY(!recorder.calls.contains(QStringLiteral("finished")));
@@ -160,8 +159,8 @@ void tst_MvMemoryRenderService::lifecycleNotificationsReachEveryObserver()
     service.notifyError(7);
     service.notifyStop();
     service.notifyFinished();
-    const QStringList expected{QStringLiteral("prepare"), QStringLiteral("error 7"), QStringLiteral("stop"),
-        QStringLiteral("finished")};
+    const QStringList expected { QStringLiteral("prepare"), QStringLiteral("error 7"), QStringLiteral("stop"),
+        QStringLiteral("finished") };
     QCOMPARE(first.calls, expected);
     QCOMPARE(second.calls, expected);
     service.removeObserver(&first);

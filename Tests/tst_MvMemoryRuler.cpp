@@ -196,6 +196,11 @@ void tst_MvMemoryRuler::framesInPixelsTruncates()
     QCOMPARE(ruler.framesInPixels(3), 0);
     ruler.setZoomRatio(0.625f);
     QCOMPARE(ruler.framesInPixels(30), 48);
+    QCOMPARE(ruler.framesInPixels(-30), -48);
+    // Zoomed out all the way, 600 px show 1800 frames: 30 px are 90 frames despite float rounding.
+    ruler.setViewWidth(600);
+    ruler.setZoomRatio(ruler.minZoomRatio());
+    QCOMPARE(ruler.framesInPixels(30), 90);
 }
 
 void tst_MvMemoryRuler::ticksMakeRoundUnitsAndStayApart_data()
@@ -341,16 +346,16 @@ void tst_MvMemoryRuler::notificationsOnlyOnRealChange()
     QVERIFY(recorder.kinds.isEmpty());
 
     ruler.setFrameRate(25, 1);
-    QCOMPARE(recorder.kinds, QList<int>({4}));
+    QCOMPARE(recorder.kinds, QList<int>({ 4 }));
     recorder.kinds.clear();
     ruler.zoom(-45);
-    QCOMPARE(recorder.kinds, QList<int>({0, 3}));
+    QCOMPARE(recorder.kinds, QList<int>({ 0, 3 }));
     recorder.kinds.clear();
     ruler.setCurrentFrame(100);
-    QCOMPARE(recorder.kinds, QList<int>({1}));
+    QCOMPARE(recorder.kinds, QList<int>({ 1 }));
     recorder.kinds.clear();
     ruler.setCurrentFrame(1500);
-    QCOMPARE(recorder.kinds, QList<int>({3, 1}));
+    QCOMPARE(recorder.kinds, QList<int>({ 3, 1 }));
     ruler.removeObserver(&recorder);
 }
 
@@ -364,7 +369,7 @@ void tst_MvMemoryRuler::notificationOrderOfALengthChange()
     QList<qint64> totalsSeen;
     recorder.onEvent = [&](int) { totalsSeen.append(ruler.visibleEndFrame()); };
     ruler.setTotalFrames(900);
-    QCOMPARE(recorder.kinds, QList<int>({2, 5, 0, 3, 1}));
+    QCOMPARE(recorder.kinds, QList<int>({ 2, 5, 0, 3, 1 }));
     // The state is complete before the first observer hears of it.
     for (qint64 end : qAsConst(totalsSeen))
         QCOMPARE(end, qint64(900));
@@ -378,15 +383,18 @@ void tst_MvMemoryRuler::observerMayLeaveDuringACallback()
     KindRecorder first;
     KindRecorder second;
     KindRecorder third;
-    first.onEvent = [&](int) { ruler.removeObserver(&first); ruler.removeObserver(&second); };
+    first.onEvent = [&](int) {
+        ruler.removeObserver(&first);
+        ruler.removeObserver(&second);
+    };
     ruler.addObserver(&first);
     ruler.addObserver(&second);
     ruler.addObserver(&third);
     QCOMPARE(ruler.observerCount(), 3);
     ruler.setCurrentFrame(10);
-    QCOMPARE(first.kinds, QList<int>({1}));
+    QCOMPARE(first.kinds, QList<int>({ 1 }));
     QVERIFY(second.kinds.isEmpty());
-    QCOMPARE(third.kinds, QList<int>({1}));
+    QCOMPARE(third.kinds, QList<int>({ 1 }));
     QCOMPARE(ruler.observerCount(), 1);
     ruler.removeObserver(&third);
     QCOMPARE(ruler.observerCount(), 0);

@@ -1,7 +1,9 @@
+#include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
 #include "Memory/MvCallJournal.h"
 #include "Memory/MvMemoryEditService.h"
 #include "Memory/MvMemoryPlayhead.h"
+#include "Memory/MvMemoryRenderService.h"
 #include "Memory/MvMemorySelection.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvMemoryUndoService.h"
@@ -58,6 +60,21 @@ QString span(const IMvClip* clip)
         % QString::number(clip->end());
 }
 
+// A host that renders with its own service.
+class OwnRenderService : public IMvTimelineRenderService
+{
+public:
+    void addObserver(IMvTimelineRenderEventObserver*) override { }
+    void removeObserver(IMvTimelineRenderEventObserver*) override { }
+    void segments(QList<MvRenderSegment>& out) const override { out = { MvRenderSegment { 0, 9, 1 } }; }
+};
+
+class OwnRenderTimeline : public MvMemoryTimeline
+{
+protected:
+    IMvTimelineRenderService* createRenderService() override { return new OwnRenderService; }
+};
+
 class RecordingObserver : public IMvPlayheadEventObserver
 {
 public:
@@ -96,6 +113,8 @@ private Q_SLOTS:
     void observerMayLeaveDuringItsCallback();
     void virtualPlayheadKeepsTheRealFrame();
     void journalRecordsEdits();
+    void editsMarkTheirStretchForRendering();
+    void subclassSuppliesItsOwnRenderService();
     void invariantCheckerCatchesBrokenStates();
     void sampleProjectIsConsistent();
 };
@@ -165,7 +184,8 @@ void tst_MvMemoryTimeline::splitDividesOnlyWhereTheCutFalls_data()
     QTest::addColumn<QStringList>("expected"); // spans of the clips on the timeline afterwards
     QTest::newRow("inside") << QStringList { QStringLiteral("a") } << qint64(50) << false
                             << QStringList { QStringLiteral("0:0..49"), QStringLiteral("0:50..99"),
-                                   QStringLiteral("0:150..249"), QStringLiteral("1:50..149"), QStringLiteral("2:0..99") };
+                                   QStringLiteral("0:150..249"), QStringLiteral("1:50..149"),
+                                   QStringLiteral("2:0..99") };
     QTest::newRow("on the last frame") << QStringList { QStringLiteral("a") } << qint64(99) << false
                                        << QStringList { QStringLiteral("0:0..98"), QStringLiteral("0:99..99"),
                                               QStringLiteral("0:150..249"), QStringLiteral("1:50..149"),
@@ -216,7 +236,8 @@ void tst_MvMemoryTimeline::splitCarriesMarkersKeysTransitionsAndGroup()
     p.timeline->editService()->group({ p.a, p.s }, 1);
     p.a->clipMarkers()->addMarker(10, Qt::red);
     p.a->clipMarkers()->addMarker(70, Qt::blue);
-    const QList<MvEffectPropertyBaseInfo> props { MvEffectPropertyBaseInfo { PropertyGroup_Transform, QString(), false, -1, 3 } };
+    const QList<MvEffectPropertyBaseInfo> props { MvEffectPropertyBaseInfo {
+        PropertyGroup_Transform, QString(), false, -1, 3 } };
     QVERIFY(p.a->addKeyFrame(false, 5, props));
     QVERIFY(p.a->addKeyFrame(false, 80, props));
     QVERIFY(p.a->addFreezeFrame(7, 90));
@@ -274,7 +295,8 @@ void tst_MvMemoryTimeline::trimRules()
     QCOMPARE(::span(p.a), span);
     QCOMPARE(p.timeline->undoService()->undoCount(), result ? 1 : 0);
     if (result) {
-        QCOMPARE(p.timeline->undoService()->undoName(), atStart ? QStringLiteral("trim start") : QStringLiteral("trim end"));
+        QCOMPARE(
+            p.timeline->undoService()->undoName(), atStart ? QStringLiteral("trim start") : QStringLiteral("trim end"));
         // The marker keeps its timeline frame (20) while it is still on the clip.
         const QList<IMvMarker*> markers = p.a->clipMarkers()->markers();
         const bool stillOn = p.a->start() <= 20 && 20 <= p.a->end();
@@ -297,8 +319,10 @@ void tst_MvMemoryTimeline::moveIsAllOrNothing_data()
     const QStringList a { QStringLiteral("a") };
     QTest::newRow("right into the gap") << a << QList<int> { 0 } << qint64(50) << false << true
                                         << QStringList { QStringLiteral("0:50..149") };
-    QTest::newRow("onto b") << a << QList<int> { 0 } << qint64(51) << false << false << QStringList { QStringLiteral("0:0..99") };
-    QTest::newRow("before zero") << a << QList<int> { 0 } << qint64(-1) << false << false << QStringList { QStringLiteral("0:0..99") };
+    QTest::newRow("onto b") << a << QList<int> { 0 } << qint64(51) << false << false
+                            << QStringList { QStringLiteral("0:0..99") };
+    QTest::newRow("before zero") << a << QList<int> { 0 } << qint64(-1) << false << false
+                                 << QStringList { QStringLiteral("0:0..99") };
     QTest::newRow("onto an audio row") << a << QList<int> { 2 } << qint64(200) << false << false
                                        << QStringList { QStringLiteral("0:0..99") };
     QTest::newRow("missing row") << a << QList<int> { -1 } << qint64(0) << false << false
@@ -307,14 +331,14 @@ void tst_MvMemoryTimeline::moveIsAllOrNothing_data()
                                 << QStringList { QStringLiteral("0:0..99") };
     QTest::newRow("nothing to do") << a << QList<int> { 0 } << qint64(0) << false << false
                                    << QStringList { QStringLiteral("0:0..99") };
-    QTest::newRow("offsets do not match") << a << QList<int> { 0, 0 } << qint64(5) << false << false
-                                          << QStringList { QStringLiteral("0:0..99") };
+    QTest::newRow("offsets do not match")
+        << a << QList<int> { 0, 0 } << qint64(5) << false << false << QStringList { QStringLiteral("0:0..99") };
     QTest::newRow("rows exchanged") << QStringList { QStringLiteral("a"), QStringLiteral("c") } << QList<int> { 1, -1 }
                                     << qint64(0) << false << true
                                     << QStringList { QStringLiteral("1:0..99"), QStringLiteral("0:50..149") };
-    QTest::newRow("moving clips collide") << QStringList { QStringLiteral("a"), QStringLiteral("c") } << QList<int> { 1, 0 }
-                                          << qint64(0) << false << false
-                                          << QStringList { QStringLiteral("0:0..99"), QStringLiteral("1:50..149") };
+    QTest::newRow("moving clips collide")
+        << QStringList { QStringLiteral("a"), QStringLiteral("c") } << QList<int> { 1, 0 } << qint64(0) << false
+        << false << QStringList { QStringLiteral("0:0..99"), QStringLiteral("1:50..149") };
     QTest::newRow("a and b together") << QStringList { QStringLiteral("a"), QStringLiteral("b") } << QList<int> { 0, 0 }
                                       << qint64(10) << false << true
                                       << QStringList { QStringLiteral("0:10..109"), QStringLiteral("0:160..259") };
@@ -562,9 +586,44 @@ void tst_MvMemoryTimeline::journalRecordsEdits()
     p.timeline->beginDelete();
     p.timeline->deleteClips({ p.a });
     p.timeline->moveClips({ p.b }, { 0 }, -10, 2);
-    QCOMPARE(journal.entries(), (QStringList { QStringLiteral("model:beginDelete"), QStringLiteral("model:deleteClips"),
-                                    QStringLiteral("model:moveClips") }));
+    QCOMPARE(journal.entries(),
+        (QStringList { QStringLiteral("model:beginDelete"), QStringLiteral("model:deleteClips"),
+            QStringLiteral("model:moveClips") }));
     QCOMPARE(p.timeline->beginDeleteCount(), 1);
+}
+
+void tst_MvMemoryTimeline::editsMarkTheirStretchForRendering()
+{
+    Project p;
+    MvMemoryRenderService* render = p.timeline->renderServiceImpl();
+    QVERIFY(render);
+    QCOMPARE(p.timeline->renderService(), render);
+    render->markFinished(0, 249);
+    QVERIFY(p.timeline->trimEndToFrame(p.a, 49));
+    QCOMPARE(render->unfinishedFrames(), qint64(100));
+    render->markFinished(0, 249);
+    p.a->clipMarkers()->addMarker(5, Qt::red); // a marker changes nothing that is rendered
+    QVERIFY(p.timeline->undoRedoService()->undo());
+    QCOMPARE(render->unfinishedFrames(), qint64(0));
+    QVERIFY(p.timeline->undoRedoService()->undo());
+    QCOMPARE(render->unfinishedFrames(), qint64(100));
+    render->markFinished(0, 249);
+    QVERIFY(p.timeline->moveClips({ p.b }, { 1 }, 10, 2));
+    QCOMPARE(render->unfinishedFrames(), qint64(110)); // 150 .. 259
+}
+
+void tst_MvMemoryTimeline::subclassSuppliesItsOwnRenderService()
+{
+    OwnRenderTimeline timeline;
+    timeline.addTrack(TrackType_Picture);
+    MvMemoryClip* clip = timeline.addClip(0, ClipType_Video, 0, 99, QStringLiteral("clip"));
+    QVERIFY(!timeline.renderServiceImpl());
+    QList<MvRenderSegment> segments;
+    timeline.renderService()->segments(segments);
+    QCOMPARE(segments.size(), 1);
+    QVERIFY(timeline.trimEndToFrame(clip, 50));
+    QVERIFY(timeline.undoRedoService()->undo());
+    QCOMPARE(clip->end(), qint64(99));
 }
 
 void tst_MvMemoryTimeline::invariantCheckerCatchesBrokenStates()

@@ -51,45 +51,55 @@ void tst_MvMemoryUndo::walkTheStackBackAndForth()
     MvMemoryTimeline timeline;
     MvSampleProject::build(timeline);
     timeline.playhead()->setCurrentFrame(0);
-    const QList<MvEffectPropertyBaseInfo> transform { MvEffectPropertyBaseInfo { PropertyGroup_Transform, QString(), false, -1, 3 } };
+    const QList<MvEffectPropertyBaseInfo> transform { MvEffectPropertyBaseInfo {
+        PropertyGroup_Transform, QString(), false, -1, 3 } };
     const QString street = QStringLiteral("Market street");
     const QString boats = QStringLiteral("Fishing boats");
     const QList<Command> commands {
-        { QStringLiteral("split"), [&](MvMemoryTimeline& t) {
-             QList<IMvClip*> pieces;
-             t.splitClips(pieces, { clipNamed(t, street) }, 30 * 30);
-             return pieces.size() == 1;
-         } },
-        { QStringLiteral("trim start"), [&](MvMemoryTimeline& t) { return t.trimStartToFrame(clipNamed(t, boats), 60 * 30); } },
-        { QStringLiteral("trim end"), [&](MvMemoryTimeline& t) { return t.trimEndToFrame(clipNamed(t, boats), 85 * 30); } },
-        { QStringLiteral("delete clips"), [&](MvMemoryTimeline& t) { return t.deleteClips({ clipNamed(t, QStringLiteral("Seagull")) }); } },
+        { QStringLiteral("split"),
+            [&](MvMemoryTimeline& t) {
+                QList<IMvClip*> pieces;
+                t.splitClips(pieces, { clipNamed(t, street) }, 30 * 30);
+                return pieces.size() == 1;
+            } },
+        { QStringLiteral("trim start"),
+            [&](MvMemoryTimeline& t) { return t.trimStartToFrame(clipNamed(t, boats), 60 * 30); } },
+        { QStringLiteral("trim end"),
+            [&](MvMemoryTimeline& t) { return t.trimEndToFrame(clipNamed(t, boats), 85 * 30); } },
+        { QStringLiteral("delete clips"),
+            [&](MvMemoryTimeline& t) { return t.deleteClips({ clipNamed(t, QStringLiteral("Seagull")) }); } },
         { QStringLiteral("ripple delete clips"),
             [&](MvMemoryTimeline& t) { return t.rippleDeleteClips({ clipNamed(t, QStringLiteral("Old map")) }); } },
-        { QStringLiteral("move clips"), [&](MvMemoryTimeline& t) {
-             return t.moveClips({ clipNamed(t, QStringLiteral("Logo")) }, { -1 }, 15, 2);
-         } },
-        { QStringLiteral("group"), [&](MvMemoryTimeline& t) {
-             t.editService()->group({ clipNamed(t, QStringLiteral("Lower third")), clipNamed(t, QStringLiteral("Logo")) }, 2);
-             return clipNamed(t, QStringLiteral("Logo"))->groupKind() == 2;
-         } },
-        { QStringLiteral("add marker"), [&](MvMemoryTimeline& t) {
-             t.timelineMarkers()->addMarker(33, Qt::yellow);
-             return t.timelineMarkers()->markerAt(33) != nullptr;
-         } },
-        { QStringLiteral("edit marker"), [&](MvMemoryTimeline& t) {
-             t.timelineMarkers()->markerAt(33)->setName(QStringLiteral("cue"));
-             return t.timelineMarkers()->markerAt(33)->name() == QStringLiteral("cue");
-         } },
+        { QStringLiteral("move clips"),
+            [&](MvMemoryTimeline& t) { return t.moveClips({ clipNamed(t, QStringLiteral("Logo")) }, { -1 }, 15, 2); } },
+        { QStringLiteral("group"),
+            [&](MvMemoryTimeline& t) {
+                t.editService()->group(
+                    { clipNamed(t, QStringLiteral("Lower third")), clipNamed(t, QStringLiteral("Logo")) }, 2);
+                return clipNamed(t, QStringLiteral("Logo"))->groupKind() == 2;
+            } },
+        { QStringLiteral("add marker"),
+            [&](MvMemoryTimeline& t) {
+                t.timelineMarkers()->addMarker(33, Qt::yellow);
+                return t.timelineMarkers()->markerAt(33) != nullptr;
+            } },
+        { QStringLiteral("edit marker"),
+            [&](MvMemoryTimeline& t) {
+                t.timelineMarkers()->markerAt(33)->setName(QStringLiteral("cue"));
+                return t.timelineMarkers()->markerAt(33)->name() == QStringLiteral("cue");
+            } },
         { QStringLiteral("add key frame"),
             [&](MvMemoryTimeline& t) { return clipNamed(t, street)->addKeyFrame(false, 12, transform); } },
-        { QStringLiteral("rotate clip"), [&](MvMemoryTimeline& t) {
-             t.rotateClip90CW(clipNamed(t, street));
-             return clipNamed(t, street)->rotation() == 90;
-         } },
-        { QStringLiteral("remove marker"), [&](MvMemoryTimeline& t) {
-             t.timelineMarkers()->removeMarker(t.timelineMarkers()->markerAt(33));
-             return t.timelineMarkers()->markerAt(33) == nullptr;
-         } },
+        { QStringLiteral("rotate clip"),
+            [&](MvMemoryTimeline& t) {
+                t.rotateClip90CW(clipNamed(t, street));
+                return clipNamed(t, street)->rotation() == 90;
+            } },
+        { QStringLiteral("remove marker"),
+            [&](MvMemoryTimeline& t) {
+                t.timelineMarkers()->removeMarker(t.timelineMarkers()->markerAt(33));
+                return t.timelineMarkers()->markerAt(33) == nullptr;
+            } },
     };
 
     IMvUndoRedoService* undo = timeline.undoRedoService();

@@ -36,7 +36,10 @@ protected:
 class PressFilter : public IMvEventFilter
 {
 public:
-    explicit PressFilter(MvEventFilterManager* manager) : manager(manager) { }
+    explicit PressFilter(MvEventFilterManager* manager)
+        : manager(manager)
+    {
+    }
     bool active = true;
     int seen = 0;
     MvEventFilterManager* manager;
@@ -135,7 +138,7 @@ void tst_MvPureTimelineRulerWidget::makeRuler()
 {
     m_widget.reset(new MvPureTimelineRulerWidget);
     m_widget->resize(kWidth, kHeight);
-    m_widget->setFramerate({30, 1});
+    m_widget->setFramerate({ 30, 1 });
     m_widget->setTotalFrames(1800);
     m_widget->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_widget.data()));
@@ -175,9 +178,9 @@ void tst_MvPureTimelineRulerWidget::storedLengthAndRateAreReadBack()
     QCOMPARE(fresh.framerate().numerator, -1);
     QCOMPARE(fresh.framerate().denominator, -1);
     QCOMPARE(fresh.totalFrames(), qint64(0));
-    fresh.setFramerate({24000, 1001});
+    fresh.setFramerate({ 24000, 1001 });
     fresh.setTotalFrames(-3);
-    QCOMPARE(fresh.framerate(), (MVVBLMODEL::MvFrameRate{24000, 1001}));
+    QCOMPARE(fresh.framerate(), (MVVBLMODEL::MvFrameRate { 24000, 1001 }));
     // The widget keeps what it was told; its ruler keeps what makes sense.
     QCOMPARE(fresh.totalFrames(), qint64(-3));
     QCOMPARE(fresh.ruler()->totalFrames(), qint64(0));
@@ -362,8 +365,7 @@ void tst_MvPureTimelineRulerWidget::wheelZoomsWithTheSchemeModifier_data()
     QTest::newRow("pixel delta wins") << 0 << ctrl << QPoint(0, 10) << QPoint(0, 120) << -10;
     QTest::newRow("plain wheel scrolls the parent") << 0 << 0 << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("alt in the default scheme") << 0 << alt << QPoint() << QPoint(120, 0) << 0;
-    QTest::newRow("ctrl+shift is not ctrl") << 0 << (ctrl | int(Qt::ShiftModifier)) << QPoint() << QPoint(0, 120)
-                                            << 0;
+    QTest::newRow("ctrl+shift is not ctrl") << 0 << (ctrl | int(Qt::ShiftModifier)) << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("scheme 2 ignores ctrl") << 2 << ctrl << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("scheme 2 alt is horizontal") << 2 << alt << QPoint() << QPoint(120, 0) << -15;
     QTest::newRow("scheme 2 alt ignores vertical") << 2 << alt << QPoint() << QPoint(0, 120) << 0;
@@ -405,8 +407,8 @@ void tst_MvPureTimelineRulerWidget::propertyPanelEventZoomsWithoutConsumingIt()
     MvMemoryRuler* expected = referenceRuler();
     expected->zoom(-20);
     QSignalSpy zoomed(m_widget.data(), &MvPureTimelineRulerWidget::sigZoomChanged);
-    const bool consumed = MvCustomEventDispatcher::instance().sendEvent(
-        QStringLiteral("NotifyAdjustPropertyTimeLine"), {20});
+    const bool consumed
+        = MvCustomEventDispatcher::instance().sendEvent(QStringLiteral("NotifyAdjustPropertyTimeLine"), { 20 });
     QVERIFY(!consumed);
     QCOMPARE(zoomed.count(), 1);
     QCOMPARE(m_widget->ruler()->zoomRatio(), expected->zoomRatio());
@@ -466,7 +468,7 @@ void tst_MvPureTimelineRulerWidget::rulerChangesBecomeSignals()
     QSignalSpy range(m_widget.data(), &MvPureTimelineRulerWidget::sigVisualRangeChanged);
     QSignalSpy width(m_widget.data(), &MvPureTimelineRulerWidget::sigViewWidthChanged);
 
-    m_widget->setFramerate({25, 1});
+    m_widget->setFramerate({ 25, 1 });
     QCOMPARE(rate.count(), 1);
     m_widget->setCurrentFrame(100);
     QCOMPARE(current.count(), 1);
@@ -536,7 +538,7 @@ void tst_MvPureTimelineRulerWidget::paintedTicksAreTenAndFivePixelsTall()
         return height;
     };
     QCOMPARE(tickHeight(0), 10 + lift); // the lift raises the top; the tick still reaches the bottom
-    QCOMPARE(tickHeight(7), 5 + lift);  // the minor at 7.5 is drawn at 7
+    QCOMPARE(tickHeight(7), 5 + lift); // the minor at 7.5 is drawn at 7
     QCOMPARE(tickHeight(37), 10 + lift);
     QCOMPARE(tickHeight(10), 0);
     QCOMPARE(image.pixel(37, kHeight - 11 - lift), black);

@@ -1,8 +1,8 @@
 // The ruler and the render strip fill their rectangles one by one, snapped to device pixels,
 // instead of filling one QPainterPath. These tests paint both ways and compare every pixel.
 
-#include "Memory/MvMemoryRuler.h"
 #include "IMvTimelineRenderService.h"
+#include "Memory/MvMemoryRuler.h"
 #include "MvRulerPainter_p.h"
 #include "MvScreen.h"
 #include "MvSkinStyle.h"
@@ -102,7 +102,7 @@ MvRenderSegment randomSegment(QRandomGenerator& random, qint64 total)
 {
     const qint64 start = qint64(random.bounded(int(total)));
     const qint64 length = qint64(random.bounded(200)) - 5; // some reversed, some single frames
-    return {start, start + length, random.bounded(3) == 0 ? quint64(1) << 32 | 1u : quint64(random.bounded(2))};
+    return { start, start + length, random.bounded(3) == 0 ? quint64(1) << 32 | 1u : quint64(random.bounded(2)) };
 }
 
 }
@@ -133,16 +133,23 @@ void tst_MvRulerPainting::rulerPixelsEqualThePathFill_data()
     QTest::addColumn<qint64>("current");
     QTest::addColumn<double>("offset");
 
-    const QList<double> ratios{1.0, 1.25, 1.75, 2.0};
+    const QList<double> ratios { 1.0, 1.25, 1.75, 2.0 };
     for (double dpr : ratios) {
         const QByteArray scale = QByteArray::number(dpr);
-        QTest::newRow(QByteArray(scale + " minute zoomed out").constData()) << dpr << qint64(1800) << 0 << qint64(0) << 0.0;
-        QTest::newRow(QByteArray(scale + " minute half way").constData()) << dpr << qint64(1800) << -60 << qint64(777) << 0.0;
-        QTest::newRow(QByteArray(scale + " minute zoomed in").constData()) << dpr << qint64(1800) << -1000 << qint64(1333) << 0.0;
-        QTest::newRow(QByteArray(scale + " ten hours zoomed out").constData()) << dpr << qint64(1080000) << 0 << qint64(0) << 0.0;
-        QTest::newRow(QByteArray(scale + " ten hours mid").constData()) << dpr << qint64(1080000) << -300 << qint64(512345) << 0.0;
-        QTest::newRow(QByteArray(scale + " ten hours zoomed in").constData()) << dpr << qint64(1080000) << -2000 << qint64(1079000) << 0.0;
-        QTest::newRow(QByteArray(scale + " shifted widget").constData()) << dpr << qint64(1800) << -120 << qint64(901) << 0.4;
+        QTest::newRow(QByteArray(scale + " minute zoomed out").constData())
+            << dpr << qint64(1800) << 0 << qint64(0) << 0.0;
+        QTest::newRow(QByteArray(scale + " minute half way").constData())
+            << dpr << qint64(1800) << -60 << qint64(777) << 0.0;
+        QTest::newRow(QByteArray(scale + " minute zoomed in").constData())
+            << dpr << qint64(1800) << -1000 << qint64(1333) << 0.0;
+        QTest::newRow(QByteArray(scale + " ten hours zoomed out").constData())
+            << dpr << qint64(1080000) << 0 << qint64(0) << 0.0;
+        QTest::newRow(QByteArray(scale + " ten hours mid").constData())
+            << dpr << qint64(1080000) << -300 << qint64(512345) << 0.0;
+        QTest::newRow(QByteArray(scale + " ten hours zoomed in").constData())
+            << dpr << qint64(1080000) << -2000 << qint64(1079000) << 0.0;
+        QTest::newRow(QByteArray(scale + " shifted widget").constData())
+            << dpr << qint64(1800) << -120 << qint64(901) << 0.4;
     }
 }
 
@@ -187,7 +194,7 @@ void tst_MvRulerPainting::stripPixelsEqualThePathFill_data()
 {
     QTest::addColumn<double>("dpr");
     QTest::addColumn<int>("zoomSteps");
-    for (double dpr : {1.0, 1.25, 1.75, 2.0}) {
+    for (double dpr : { 1.0, 1.25, 1.75, 2.0 }) {
         const QByteArray scale = QByteArray::number(dpr);
         QTest::newRow(QByteArray(scale + " zoomed out").constData()) << dpr << 0;
         QTest::newRow(QByteArray(scale + " zoomed in").constData()) << dpr << -150;
@@ -217,7 +224,7 @@ void tst_MvRulerPainting::stripPixelsEqualThePathFill()
         const MvRenderSegment segment = randomSegment(random, ruler.totalFrames());
         if (segment.end < segment.start)
             continue;
-        const MvPixelSpan span{ruler.frameToPixel(segment.start), ruler.frameToPixel(segment.end)};
+        const MvPixelSpan span { ruler.frameToPixel(segment.start), ruler.frameToPixel(segment.end) };
         const QRectF rect(span.x0, 0, span.x1 - span.x0, stripHeight);
         const bool pending = quint32(segment.unfinished) != 0;
         (pending ? unfinished : finished).append(span);

@@ -71,7 +71,7 @@ void tst_MvRulerTickLayout::ticksReachTheRightEdgeItself()
 {
     MvRulerLayout layout;
     MvRulerTickLayout::layout(input(0, 10.0, 1), &layout);
-    QCOMPARE(positions(layout), (QList<double>{0, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100}));
+    QCOMPARE(positions(layout), (QList<double> { 0, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100 }));
     MvRulerTickLayout::layout(input(0, 10.0, 1, 99), &layout);
     QCOMPARE(layout.ticks.size(), 10);
     // A fractional spacing is drawn at the whole pixel below.
@@ -123,7 +123,7 @@ void tst_MvRulerTickLayout::labelsKeepAFivePixelGap()
     QList<int> labelled;
     for (const MvRulerLabel& label : qAsConst(layout.labels))
         labelled.append(label.frame);
-    QCOMPARE(labelled, (QList<int>{0, 10, 20, 30}));
+    QCOMPARE(labelled, (QList<int> { 0, 10, 20, 30 }));
     QVERIFY(layout.ticks.at(5).major);
     QCOMPARE(layout.ticks.at(5).top, 18);
 

@@ -28,8 +28,7 @@ void tst_MvRulerTimecode::rationalRates_data()
     QTest::newRow("25: one hour") << 90000 << 25 << 1 << QStringLiteral("01:00:00:00");
     QTest::newRow("23.976: no drop frames") << 1440 << 24000 << 1001 << QStringLiteral("00:01:00:01");
     QTest::newRow("23.976: just under an hour") << 86313 << 24000 << 1001 << QStringLiteral("00:59:59:23");
-    QTest::newRow("29.97: a minute is 1800 frames plus one") << 1800 << 30000 << 1001
-                                                           << QStringLiteral("00:01:00:01");
+    QTest::newRow("29.97: a minute is 1800 frames plus one") << 1800 << 30000 << 1001 << QStringLiteral("00:01:00:01");
     QTest::newRow("29.97: one hour") << 107892 << 30000 << 1001 << QStringLiteral("01:00:00:00");
     QTest::newRow("60: last frame of a minute") << 3599 << 60 << 1 << QStringLiteral("00:00:59:59");
     QTest::newRow("60: one hour") << 216000 << 60 << 1 << QStringLiteral("01:00:00:00");

@@ -1,3 +1,9 @@
+#include "IMvColorCompareService.h"
+#include "IMvSelection.h"
+#include "IMvTrack.h"
+#include "Memory/MvMemoryClip.h"
+#include "Memory/MvMemoryTimeline.h"
+#include "Memory/MvMemoryTrack.h"
 #include "MvModelMessages.h"
 #include "MvRecordingScene.h"
 #include "MvTimelinePresenter.h"
@@ -16,6 +22,8 @@ public:
     int refreshes = 0;
     int normalHeight = 70;
 
+    int detachRow(IMvClip* clip) { return calcDetachAudioTrackIndex(clip); }
+    void switchPlayer() { switchMediaPlayerToTimeline(); }
     int heightOf(MVVBLMODEL::MvTrackSizePolicy policy) { return getTrackHeight(policy); }
 
 protected:
@@ -32,7 +40,6 @@ class tst_MvTimelinePresenterFrame : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaultConfigurationHasTwoFixedTracks();
     void clearFixedTrackKeepsTheOtherFields();
     void configurationCopiesEveryField();
     void modeChangeSignalsOnlyOnDifference();
@@ -47,31 +54,52 @@ private Q_SLOTS:
     void placeholderWithoutReceiverStaysVisible();
     void placeholderDeletedByReceiver();
     void placeholderRectangleNarrowsTo32Bits();
+    void adjustTrackHeightUsesTheOverride();
+    void adjustTrackHeightIgnoresAMissingTrack();
+    void emptyCapNeedsAGapBetweenSelectedClipsOfOneTrack_data();
+    void emptyCapNeedsAGapBetweenSelectedClipsOfOneTrack();
+    void detachedAudioGoesToTheLowestFreeUnlockedRow();
+    void playerIsSwitchedOnlyToTheMainTimeline_data();
+    void playerIsSwitchedOnlyToTheMainTimeline();
+    void propertyPanelHidesOnlyWhereNoVirtualPlayheadIsAllowed();
+    void seekIsRelativeToTheColourCompareClip();
 };
 
-void tst_MvTimelinePresenterFrame::defaultConfigurationHasTwoFixedTracks()
+namespace {
+// Two picture rows and two audio rows; the second picture row holds clips at 0-99, 100-149 and 200-299.
+struct Fixture
 {
-    MvTimelinePresenter presenter(nullptr, nullptr);
-    const auto* config = presenter.config();
-    QCOMPARE(config->fixedTrackCount(), 2);
-    QCOMPARE(int(config->sizeParam), 55);
-    QCOMPARE(config->widthParam, 128);
-    QVERIFY(config->flagFirst);
-    QVERIFY(!config->flagSecond);
+    MvMemoryTimeline timeline;
+    MvMemoryClip* a;
+    MvMemoryClip* b;
+    MvMemoryClip* c;
+    MvMemoryClip* other;
+
+    Fixture()
+    {
+        timeline.addTrack(MVVBLMODEL::TrackType_Picture);
+        timeline.addTrack(MVVBLMODEL::TrackType_Picture);
+        timeline.addTrack(MVVBLMODEL::TrackType_Audio);
+        timeline.addTrack(MVVBLMODEL::TrackType_Audio);
+        a = timeline.addClip(1, MVVBLMODEL::ClipType_Video, 0, 99, QStringLiteral("a"));
+        b = timeline.addClip(1, MVVBLMODEL::ClipType_Video, 100, 149, QStringLiteral("b"));
+        c = timeline.addClip(1, MVVBLMODEL::ClipType_Video, 200, 299, QStringLiteral("c"));
+        other = timeline.addClip(0, MVVBLMODEL::ClipType_Image, 160, 180, QStringLiteral("other"));
+    }
+};
 }
 
 void tst_MvTimelinePresenterFrame::clearFixedTrackKeepsTheOtherFields()
 {
-    MvTimelinePresenter::MvTimelineViewConfig config;
-    config.sizeParam = 9;
-    config.widthParam = -4;
-    config.flagSecond = true;
-    config.clearFixedTrack();
-    QCOMPARE(config.fixedTrackCount(), 0);
-    QCOMPARE(int(config.sizeParam), 9);
-    QCOMPARE(config.widthParam, -4);
-    QVERIFY(config.flagFirst);
-    QVERIFY(config.flagSecond);
+    MvTimelinePresenter presenter(nullptr, nullptr);
+    auto* config = presenter.config();
+    QCOMPARE(config->fixedTrackCount(), 2);
+    config->clearFixedTrack();
+    QCOMPARE(config->fixedTrackCount(), 0);
+    QCOMPARE(int(config->sizeParam), 55);
+    QCOMPARE(config->widthParam, 128);
+    QVERIFY(config->flagFirst);
+    QVERIFY(!config->flagSecond);
 }
 
 void tst_MvTimelinePresenterFrame::configurationCopiesEveryField()
@@ -237,6 +265,118 @@ void tst_MvTimelinePresenterFrame::placeholderRectangleNarrowsTo32Bits()
     QCOMPARE(presenter.emptyClipRect(), QRect(5, 7, 3, 4));
     presenter.showEmptyClip(1, 1, 0, 4);
     QVERIFY(!presenter.emptyClipItemVisible());
+}
+
+void tst_MvTimelinePresenterFrame::adjustTrackHeightUsesTheOverride()
+{
+    Fixture f;
+    HostPresenter presenter(nullptr, &f.timeline);
+    presenter.normalHeight = 81;
+    presenter.adjustTrackHeight(1, 1);
+    presenter.adjustTrackHeight(2, 2);
+    presenter.adjustTrackHeight(3, 9);
+    QCOMPARE(f.timeline.trackAt(1)->height(), 81);
+    QCOMPARE(f.timeline.trackAt(2)->height(), 160);
+    QCOMPARE(f.timeline.trackAt(3)->height(), 81);
+}
+
+void tst_MvTimelinePresenterFrame::adjustTrackHeightIgnoresAMissingTrack()
+{
+    Fixture f;
+    const QString before = f.timeline.stateText();
+    MvTimelinePresenter presenter(nullptr, &f.timeline);
+    presenter.adjustTrackHeight(4, 2);
+    presenter.adjustTrackHeight(-1, 2);
+    QCOMPARE(f.timeline.stateText(), before);
+}
+
+void tst_MvTimelinePresenterFrame::emptyCapNeedsAGapBetweenSelectedClipsOfOneTrack_data()
+{
+    QTest::addColumn<QStringList>("selected");
+    QTest::addColumn<bool>("gap");
+    QTest::newRow("nothing") << QStringList() << false;
+    QTest::newRow("one clip") << QStringList { QStringLiteral("a") } << false;
+    QTest::newRow("adjacent clips") << QStringList { QStringLiteral("b"), QStringLiteral("a") } << false;
+    QTest::newRow("gap between b and c") << QStringList { QStringLiteral("c"), QStringLiteral("b") } << true;
+    QTest::newRow("gap only across tracks") << QStringList { QStringLiteral("b"), QStringLiteral("other") } << false;
+}
+
+void tst_MvTimelinePresenterFrame::emptyCapNeedsAGapBetweenSelectedClipsOfOneTrack()
+{
+    QFETCH(QStringList, selected);
+    QFETCH(bool, gap);
+    Fixture f;
+    const QHash<QString, IMvClip*> byName { { QStringLiteral("a"), f.a }, { QStringLiteral("b"), f.b },
+        { QStringLiteral("c"), f.c }, { QStringLiteral("other"), f.other } };
+    QList<IMvClip*> clips;
+    for (const QString& name : selected)
+        clips.append(byName.value(name));
+    f.timeline.selection()->select(clips);
+    MvTimelinePresenter presenter(nullptr, &f.timeline);
+    QCOMPARE(presenter.hasEmptyCap(), gap);
+}
+
+void tst_MvTimelinePresenterFrame::detachedAudioGoesToTheLowestFreeUnlockedRow()
+{
+    Fixture f;
+    HostPresenter presenter(nullptr, &f.timeline);
+    QCOMPARE(presenter.detachRow(f.a), 3);
+    f.timeline.addClip(3, MVVBLMODEL::ClipType_Audio, 50, 60, QStringLiteral("sound"));
+    QCOMPARE(presenter.detachRow(f.a), 2);
+    QCOMPARE(presenter.detachRow(f.c), 3);
+    f.timeline.trackAt(2)->setLocked(true);
+    QCOMPARE(presenter.detachRow(f.a), -1);
+    QCOMPARE(presenter.detachRow(nullptr), -1);
+}
+
+void tst_MvTimelinePresenterFrame::playerIsSwitchedOnlyToTheMainTimeline_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("messages");
+    QTest::newRow("main timeline") << 0 << 1;
+    QTest::newRow("nested timeline") << 1 << 0;
+}
+
+void tst_MvTimelinePresenterFrame::playerIsSwitchedOnlyToTheMainTimeline()
+{
+    QFETCH(int, kind);
+    QFETCH(int, messages);
+    MvMemoryTimeline timeline(kind);
+    MvRecordingScene scene;
+    HostPresenter presenter(nullptr, &timeline);
+    presenter.setScene(&scene);
+    presenter.switchPlayer();
+    QCOMPARE(scene.count(7005), messages);
+    if (messages)
+        QCOMPARE(scene.entries().first().payload.value<void*>(), static_cast<void*>(static_cast<IMvTimeline*>(&timeline)));
+}
+
+void tst_MvTimelinePresenterFrame::propertyPanelHidesOnlyWhereNoVirtualPlayheadIsAllowed()
+{
+    MvMemoryTimeline timeline;
+    MvRecordingScene scene;
+    MvTimelinePresenter presenter(nullptr, &timeline);
+    presenter.setScene(&scene);
+    timeline.setVirtualPlayheadAllowed(true);
+    presenter.checkHidePropertyPanel();
+    QCOMPARE(scene.count(9006), 0);
+    timeline.setVirtualPlayheadAllowed(false);
+    presenter.checkHidePropertyPanel();
+    QCOMPARE(scene.count(9006), 1);
+}
+
+void tst_MvTimelinePresenterFrame::seekIsRelativeToTheColourCompareClip()
+{
+    Fixture f;
+    MvRecordingScene scene;
+    MvTimelinePresenter presenter(nullptr, &f.timeline);
+    presenter.setScene(&scene);
+    getColorCompareService()->setCurrentClip(f.c);
+    presenter.seek(250);
+    getColorCompareService()->setCurrentClip(nullptr);
+    presenter.seek(250);
+    QCOMPARE(scene.entries().at(0).payload.toLongLong(), 50);
+    QCOMPARE(scene.entries().at(1).payload.toLongLong(), 250);
 }
 
 QTEST_MAIN(tst_MvTimelinePresenterFrame)

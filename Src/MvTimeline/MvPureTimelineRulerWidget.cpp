@@ -10,8 +10,11 @@
 #include <algorithm>
 
 MvPureTimelineRulerWidgetPrivate::MvPureTimelineRulerWidgetPrivate(MvPureTimelineRulerWidget* q)
-    : ruler(IMvTimelineRuler::createInstance()), q_ptr(q), target(this), gesture(nullptr),
-      eventFilterMgr(new MvEventFilterManager)
+    : ruler(IMvTimelineRuler::createInstance())
+    , q_ptr(q)
+    , target(this)
+    , gesture(nullptr)
+    , eventFilterMgr(new MvEventFilterManager)
 {
     ruler->addObserver(this);
 }
@@ -103,15 +106,16 @@ void MvPureTimelineRulerWidgetPrivate::GestureTarget::moveCurrentFrameToCenter()
 }
 
 MvPureTimelineRulerWidget::MvPureTimelineRulerWidget(QWidget* parent)
-    : MvWidget(parent), d_ptr(new MvPureTimelineRulerWidgetPrivate(this))
+    : MvWidget(parent)
+    , d_ptr(new MvPureTimelineRulerWidgetPrivate(this))
 {
     Q_D(MvPureTimelineRulerWidget);
     // Made once the private object exists: adding a child already sends this widget an event.
     d->gesture = new MvRulerGesture(this, &d->target);
     setAttribute(Qt::WA_MouseTracking);
     // The property panel's timeline zoom control speaks through this event.
-    new MvCustomEventListener(this, QStringLiteral("NotifyAdjustPropertyTimeLine"),
-        [this](const MvCustomEventImp& event) {
+    new MvCustomEventListener(
+        this, QStringLiteral("NotifyAdjustPropertyTimeLine"), [this](const MvCustomEventImp& event) {
             Q_D(MvPureTimelineRulerWidget);
             d->ruler->zoom(-event.intValue());
             return false;

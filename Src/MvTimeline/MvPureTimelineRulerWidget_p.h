@@ -19,7 +19,10 @@ public:
     class GestureTarget : public MvRulerGesture::Target
     {
     public:
-        explicit GestureTarget(MvPureTimelineRulerWidgetPrivate* d) : d(d) { }
+        explicit GestureTarget(MvPureTimelineRulerWidgetPrivate* d)
+            : d(d)
+        {
+        }
         int handleX() const override;
         void beginZoom() override;
         void endZoom() override;
@@ -33,7 +36,7 @@ public:
         MvPureTimelineRulerWidgetPrivate* d;
     };
 
-    MVVBLMODEL::MvFrameRate framerate{-1, -1};
+    MVVBLMODEL::MvFrameRate framerate { -1, -1 };
     qint64 totalFrames = 0;
     IMvTimelineRuler* ruler;
     MvPureTimelineRulerWidget* q_ptr;

@@ -32,7 +32,10 @@ constexpr int kAltWheelScheme = 2;
 MvRulerGesture::Target::~Target() = default;
 
 MvRulerGesture::MvRulerGesture(QWidget* widget, Target* target)
-    : QObject(widget), m_widget(widget), m_target(target), m_clock(&monotonicMilliseconds)
+    : QObject(widget)
+    , m_widget(widget)
+    , m_target(target)
+    , m_clock(&monotonicMilliseconds)
 {
     m_edgeScrollTimer.setInterval(kEdgeScrollInterval);
     connect(&m_edgeScrollTimer, &QTimer::timeout, this, &MvRulerGesture::edgeScrollStep);
@@ -52,7 +55,7 @@ QTimer* MvRulerGesture::edgeScrollTimer()
 
 const QPolygonF& MvRulerGesture::handlePolygon()
 {
-    static const QPolygonF polygon(QVector<QPointF>{{-7, 0}, {7, 0}, {7, 8}, {0, 16}, {-7, 8}});
+    static const QPolygonF polygon(QVector<QPointF> { { -7, 0 }, { 7, 0 }, { 7, 8 }, { 0, 16 }, { -7, 8 } });
     return polygon;
 }
 
@@ -93,8 +96,8 @@ void MvRulerGesture::move(QMouseEvent* event)
             // before every move zooms.
             const qint64 elapsed = m_pressTime < 0 ? 0 : m_clock() - m_pressTime;
             const int dx = m_lastPos.x() - pos.x();
-            const bool step = elapsed > kZoomThresholdTime
-                || (elapsed > kZoomDeadTime && std::abs(dx) >= kZoomThresholdPixels);
+            const bool step
+                = elapsed > kZoomThresholdTime || (elapsed > kZoomDeadTime && std::abs(dx) >= kZoomThresholdPixels);
             if (step) {
                 m_zoomDragged = true;
                 m_target->zoom(dx);

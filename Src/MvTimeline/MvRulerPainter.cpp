@@ -31,8 +31,8 @@ bool canSnap(const QPainter& painter)
 
 // Fills device pixels [x0, x1) x [y0, y1). fillRect rounds the mapped rectangle to whole device
 // pixels when the transform only scales, so handing it the exact preimage hits those pixels.
-static void fillDevice(QPainter& painter, const QTransform& inverse, int x0, int y0, int x1, int y1,
-    const QColor& color)
+static void fillDevice(
+    QPainter& painter, const QTransform& inverse, int x0, int y0, int x1, int y1, const QColor& color)
 {
     painter.fillRect(inverse.mapRect(QRectF(x0, y0, x1 - x0, y1 - y0)), color);
 }
@@ -50,12 +50,12 @@ struct RowSpan
 RowSpan deviceRows(const QTransform& t, double top, double height)
 {
     const double bottom = top + height;
-    return {MvExactFill::firstCentreAfter(top * t.m22() + t.dy()),
-        MvExactFill::firstCentreAfter(bottom * t.m22() + t.dy())};
+    return { MvExactFill::firstCentreAfter(top * t.m22() + t.dy()),
+        MvExactFill::firstCentreAfter(bottom * t.m22() + t.dy()) };
 }
 
-void fillTicksWithPath(QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy,
-    const QColor& color)
+void fillTicksWithPath(
+    QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color)
 {
     QPainterPath path;
     for (const MvRulerTick& tick : layout.ticks)
@@ -67,8 +67,8 @@ void fillTicksWithPath(QPainter& painter, const MvRulerLayout& layout, double ti
 
 namespace MvRulerPainter {
 
-void fillTicks(QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy,
-    const QColor& color)
+void fillTicks(
+    QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color)
 {
     if (layout.ticks.isEmpty())
         return;
@@ -80,7 +80,7 @@ void fillTicks(QPainter& painter, const MvRulerLayout& layout, double tickWidth,
     const QTransform inverse = t.inverted();
     const double tickHeight = double(height + dy);
     // Ticks come in two heights; their rows are worked out once per height.
-    int cachedTop[2] = {layout.ticks.constFirst().top, layout.ticks.constFirst().top};
+    int cachedTop[2] = { layout.ticks.constFirst().top, layout.ticks.constFirst().top };
     RowSpan cachedRows[2];
     cachedRows[0] = cachedRows[1] = deviceRows(t, cachedTop[0], tickHeight);
     for (const MvRulerTick& tick : layout.ticks) {
@@ -98,8 +98,8 @@ void fillTicks(QPainter& painter, const MvRulerLayout& layout, double tickWidth,
     }
 }
 
-void paint(QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler,
-    MvRulerLayout& scratch)
+void paint(
+    QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerLayout& scratch)
 {
     if (!ruler)
         return;
@@ -159,8 +159,8 @@ void mergeSpans(QVector<MvPixelSpan>* spans)
 void fillSpans(QPainter& painter, const QVector<MvPixelSpan>& merged, int width, int height, const QColor& color)
 {
     // Stretches wholly left of 0 or right of the width only reach pixels outside the widget.
-    auto it = std::lower_bound(merged.cbegin(), merged.cend(), 0,
-        [](const MvPixelSpan& span, int x) { return span.x1 < x; });
+    auto it = std::lower_bound(
+        merged.cbegin(), merged.cend(), 0, [](const MvPixelSpan& span, int x) { return span.x1 < x; });
     if (!MvExactFill::canSnap(painter)) {
         QPainterPath path;
         path.setFillRule(Qt::WindingFill);

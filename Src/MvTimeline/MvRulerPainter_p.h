@@ -36,12 +36,12 @@ struct MvPixelSpan
 namespace MvRulerPainter {
 // The whole ruler: background, labels and ticks of `ruler` over `rect`. `scratch` keeps its
 // buffers between paints. Nothing is drawn without a ruler.
-MVTIMELINE_EXPORT void paint(QPainter& painter, const QRect& rect, const QBrush& background,
-    IMvTimelineRuler* ruler, MvRulerLayout& scratch);
+MVTIMELINE_EXPORT void paint(
+    QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerLayout& scratch);
 
 // The ticks of a layout as rectangles (left, top, tickWidth, height + dy), filled with `color`.
-MVTIMELINE_EXPORT void fillTicks(QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height,
-    int dy, const QColor& color);
+MVTIMELINE_EXPORT void fillTicks(
+    QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color);
 }
 
 namespace MvStripPainter {
@@ -49,6 +49,6 @@ namespace MvStripPainter {
 MVTIMELINE_EXPORT void mergeSpans(QVector<MvPixelSpan>* spans);
 // Fills the union of the rectangles (x0, 0, x1 - x0, height) of merged stretches; only those
 // that meet [0, width] are visited.
-MVTIMELINE_EXPORT void fillSpans(QPainter& painter, const QVector<MvPixelSpan>& merged, int width, int height,
-    const QColor& color);
+MVTIMELINE_EXPORT void fillSpans(
+    QPainter& painter, const QVector<MvPixelSpan>& merged, int width, int height, const QColor& color);
 }

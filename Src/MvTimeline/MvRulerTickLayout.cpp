@@ -42,7 +42,7 @@ void layout(const MvRulerLayoutInput& input, MvRulerLayout* out)
         if (entry.major && tick % out->labelEvery == 0) {
             const QRectF rect(x - half, labelTop, input.labelWidth, 15.0);
             if (!(lastLabelRight >= 0.0 && rect.left() - lastLabelRight < 5.0)) {
-                out->labels.append({rect, entry.frame});
+                out->labels.append({ rect, entry.frame });
                 lastLabelRight = rect.right();
             }
         }

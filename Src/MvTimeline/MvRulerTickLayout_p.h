@@ -11,9 +11,9 @@
 struct MvRulerTick
 {
     double x = 0.0; // exact position
-    int left = 0;   // x truncated toward zero: where the tick is drawn
-    int top = 0;    // top edge, lift included; the tick reaches down to the bottom edge
-    int frame = 0;  // frame number truncated to 32 bits, as the time code shows it
+    int left = 0; // x truncated toward zero: where the tick is drawn
+    int top = 0; // top edge, lift included; the tick reaches down to the bottom edge
+    int frame = 0; // frame number truncated to 32 bits, as the time code shows it
     bool major = false;
 };
 
@@ -27,10 +27,10 @@ struct MvRulerLayoutInput
 {
     int width = 0;
     int height = 0;
-    int dy = 0;         // -2 at the 1.25 and 1.75 screen scales
-    qint64 start = 0;   // first visible frame
+    int dy = 0; // -2 at the 1.25 and 1.75 screen scales
+    qint64 start = 0; // first visible frame
     double spacing = 0; // pixels between ticks
-    qint64 step = 0;    // frames between ticks
+    qint64 step = 0; // frames between ticks
     int labelWidth = 0; // width of "00:00:00:00" in the ruler's font
 };
 

@@ -6,12 +6,15 @@
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
 #include "IMvTrack.h"
+#include "MvKeyFramePresenter.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
+#include "MvTimelineVirtualPlayheadPresenter.h"
 
 #include <QMap>
 
 #include <algorithm>
+#include <new>
 
 using namespace MVVBLMODEL;
 
@@ -33,6 +36,10 @@ MvTimelinePresenterPrivate::MvTimelinePresenterPrivate(MvTimelinePresenter* q, I
 
 MvTimelinePresenterPrivate::~MvTimelinePresenterPrivate()
 {
+    // The keyframe presenter is a Qt child and outlives this part for a moment: it must not hand
+    // out the view of a presenter that is going away.
+    if (keyFramePresenter)
+        keyFramePresenter->setView(nullptr);
     copiedClipTypes.clear();
     delete config;
 }
@@ -94,6 +101,42 @@ bool MvTimelinePresenter::hasEmptyCap()
     return d->hasEmptyCap();
 }
 
+bool MvTimelinePresenter::canSplitClip()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canSplitClip();
+}
+
+bool MvTimelinePresenter::canTrimToPlayhead()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canTrimToPlayhead();
+}
+
+bool MvTimelinePresenter::splitClips(qint64 frame, bool select, bool prepareFlag)
+{
+    Q_D(MvTimelinePresenter);
+    return d->splitClips(frame, select, prepareFlag);
+}
+
+bool MvTimelinePresenter::deleteItems(bool arg)
+{
+    Q_D(MvTimelinePresenter);
+    return d->deleteItems(arg);
+}
+
+bool MvTimelinePresenter::canDeleteItems()
+{
+    Q_D(MvTimelinePresenter);
+    return d->canDeleteItems();
+}
+
+bool MvTimelinePresenter::canDeleteClip()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canDeleteClip();
+}
+
 void MvTimelinePresenter::adjustTrackHeight(int trackIndex, MvTrackSizePolicy policy)
 {
     Q_D(MvTimelinePresenter);
@@ -124,6 +167,33 @@ MvTimelinePresenter::MvTimelineViewConfig* MvTimelinePresenter::config() const
 {
     Q_D(const MvTimelinePresenter);
     return d->config;
+}
+
+MvKeyFramePresenter* MvTimelinePresenter::keyFramePresenter()
+{
+    Q_D(MvTimelinePresenter);
+    if (!d->keyFramePresenter)
+        d->keyFramePresenter = new MvKeyFramePresenter(d->timeline, this);
+    return d->keyFramePresenter;
+}
+
+void MvTimelinePresenter::initVirtualPlayheadPresenter()
+{
+    Q_D(MvTimelinePresenter);
+    // An earlier presenter is a Qt child and stays alive until this presenter goes.
+    d->virtualPlayheadPresenter = new (std::nothrow) MvTimelineVirtualPlayheadPresenter(this, this);
+}
+
+MvTimelineVirtualPlayheadPresenter* MvTimelinePresenter::virtualPlayheadPresenter()
+{
+    Q_D(MvTimelinePresenter);
+    return d->virtualPlayheadPresenter;
+}
+
+bool MvTimelinePresenter::isOpenVirtualPlayhead()
+{
+    Q_D(MvTimelinePresenter);
+    return d->virtualPlayheadPresenter && d->virtualPlayheadPresenter->isOpen();
 }
 
 MvTimelinePresenter::MvTimelineModeType MvTimelinePresenter::modeType() const
@@ -265,6 +335,134 @@ bool MvTimelinePresenter::deleteEmptyClipItem(bool arg)
     // A receiver deletes the gap and hides the placeholder; without one it stays visible.
     Q_EMIT sigDeleteEmptyClipItem(arg);
     return !emptyClipItemVisible();
+}
+
+bool MvTimelinePresenter::splitClips(qint64 frame, QList<IMvClip*> clips, bool select, bool prepareFlag)
+{
+    Q_D(MvTimelinePresenter);
+    return d->splitClips(frame, clips, select, prepareFlag);
+}
+
+bool MvTimelinePresenter::ungroupBeforeSplit(QList<IMvClip*> clips, bool& needGroupAfter)
+{
+    Q_D(MvTimelinePresenter);
+    return d->ungroupBeforeSplit(clips, needGroupAfter);
+}
+
+bool MvTimelinePresenter::groupAfterSplit(QList<IMvClip*> sourceClips, QList<IMvClip*> newClips)
+{
+    Q_D(MvTimelinePresenter);
+    return d->groupAfterSplit(sourceClips, newClips);
+}
+
+bool MvTimelinePresenter::trimStartToPlayhead()
+{
+    Q_D(MvTimelinePresenter);
+    pauseMediaPlayer();
+    return d->trimStartToPlayhead();
+}
+
+bool MvTimelinePresenter::trimEndToPlayhead()
+{
+    Q_D(MvTimelinePresenter);
+    pauseMediaPlayer();
+    return d->trimEndToPlayhead();
+}
+
+bool MvTimelinePresenter::deleteSelectedClips()
+{
+    Q_D(MvTimelinePresenter);
+    const bool deleted = d->deleteSelectedClips();
+    if (deleted)
+        checkHidePropertyPanel();
+    return deleted;
+}
+
+bool MvTimelinePresenter::rippleDeleteSelectedClips()
+{
+    Q_D(MvTimelinePresenter);
+    const bool deleted = d->rippleDeleteSelectedClips();
+    if (deleted)
+        checkHidePropertyPanel();
+    return deleted;
+}
+
+bool MvTimelinePresenter::moveClipsHorizontal(qint64 frameOffset)
+{
+    Q_D(MvTimelinePresenter);
+    return d->moveClipsHorizontal(frameOffset);
+}
+
+bool MvTimelinePresenter::moveClipsVertical(int trackIndexOffset)
+{
+    Q_D(MvTimelinePresenter);
+    return d->moveClipsVertical(trackIndexOffset);
+}
+
+IMvClip* MvTimelinePresenter::getFirstSelectedClip()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->getFirstSelectedClip();
+}
+
+void MvTimelinePresenter::checkAndMoveToSelectedClipStartPos()
+{
+    Q_D(MvTimelinePresenter);
+    d->checkAndMoveToSelectedClipStartPos();
+}
+
+void MvTimelinePresenter::fitTimeline()
+{
+    Q_D(MvTimelinePresenter);
+    d->fitTimeline();
+}
+
+void MvTimelinePresenter::addMarker(const QColor& color)
+{
+    Q_D(MvTimelinePresenter);
+    d->addMarker(color);
+}
+
+bool MvTimelinePresenter::removeSelectedMarker() const
+{
+    Q_D(const MvTimelinePresenter);
+    return d->removeSelectedMarker();
+}
+
+bool MvTimelinePresenter::canRemoveMarker() const
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canRemoveMarker();
+}
+
+void MvTimelinePresenter::removeAllMarker()
+{
+    // Clearing every marker is the host's command (it asks the user first); the entry point stays
+    // here so that hosts built against earlier versions keep linking.
+}
+
+void MvTimelinePresenter::rotate90CW()
+{
+    Q_D(MvTimelinePresenter);
+    d->rotate90CW();
+}
+
+void MvTimelinePresenter::rotate90CCW()
+{
+    Q_D(MvTimelinePresenter);
+    d->rotate90CCW();
+}
+
+bool MvTimelinePresenter::removeSelectedFreezeFrame()
+{
+    Q_D(MvTimelinePresenter);
+    return d->removeSelectedFreezeFrame();
+}
+
+bool MvTimelinePresenter::removeSelectedSmartKeyingNode()
+{
+    Q_D(MvTimelinePresenter);
+    return d->removeSelectedSmartKeyingNode();
 }
 
 int MvTimelinePresenter::getTrackHeight(MvTrackSizePolicy policy)

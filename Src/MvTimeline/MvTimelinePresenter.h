@@ -4,6 +4,7 @@
 #include "MvPresenter.h"
 #include "MvVBLModelGlobal.h"
 
+#include <QColor>
 #include <QList>
 #include <QRect>
 #include <QScopedPointer>
@@ -13,6 +14,8 @@ class IMvClip;
 class IMvTimeline;
 class IMvTrack;
 class MvZoomSlider;
+class MvKeyFramePresenter;
+class MvTimelineVirtualPlayheadPresenter;
 class MvTimelinePresenterPrivate;
 
 // The presenter of one edited timeline and the entry point of the library. The host creates one
@@ -52,12 +55,25 @@ public:
     ~MvTimelinePresenter() override;
 
     virtual bool hasEmptyCap();
+    virtual bool canSplitClip();
+    virtual bool canTrimToPlayhead();
+    // Cuts the clips the timeline picks at frame (frame < 1: the playhead position).
+    virtual bool splitClips(qint64 frame, bool select, bool prepareFlag);
+    // Deletes whatever is selected: the empty-clip gap, keyframes, a marker, a freeze frame or clips.
+    virtual bool deleteItems(bool arg);
+    virtual bool canDeleteItems();
+    virtual bool canDeleteClip();
     virtual void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);
     virtual void setZoomSlider(MvZoomSlider* slider);
     virtual void updateAction();
 
     IMvTimeline* timeline() const;
     MvTimelineViewConfig* config() const;
+
+    MvKeyFramePresenter* keyFramePresenter();
+    void initVirtualPlayheadPresenter();
+    MvTimelineVirtualPlayheadPresenter* virtualPlayheadPresenter();
+    bool isOpenVirtualPlayhead();
 
     MvTimelineModeType modeType() const;
     void setModeType(MvTimelineModeType mode);
@@ -81,6 +97,30 @@ public:
     bool emptyClipItemVisible();
     QRect emptyClipRect();
     bool deleteEmptyClipItem(bool arg);
+
+    // Clip editing on the selection; each returns false when it changed nothing.
+    bool splitClips(qint64 frame, QList<IMvClip*> clips, bool select, bool prepareFlag);
+    bool ungroupBeforeSplit(QList<IMvClip*> clips, bool& needGroupAfter);
+    bool groupAfterSplit(QList<IMvClip*> sourceClips, QList<IMvClip*> newClips);
+    bool trimStartToPlayhead();
+    bool trimEndToPlayhead();
+    bool deleteSelectedClips();
+    bool rippleDeleteSelectedClips();
+    bool moveClipsHorizontal(qint64 frameOffset);
+    bool moveClipsVertical(int trackIndexOffset);
+    IMvClip* getFirstSelectedClip();
+    void checkAndMoveToSelectedClipStartPos();
+    void fitTimeline();
+
+    // Items that are not whole clips: markers, rotation, freeze frames, smart-keying nodes.
+    void addMarker(const QColor& color);
+    bool removeSelectedMarker() const;
+    bool canRemoveMarker() const;
+    void removeAllMarker();
+    void rotate90CW();
+    void rotate90CCW();
+    bool removeSelectedFreezeFrame();
+    bool removeSelectedSmartKeyingNode();
 
 Q_SIGNALS:
     void sigClipSelectedChanged();

@@ -45,21 +45,19 @@ QString formatTimeCode(qint64 frame, const IMvTimelineRuler* ruler)
 
 // The list a marker at the playhead belongs to, chosen as adding a marker chooses it: the single
 // selected clip's list when the playhead lies on that clip (both ends included), nothing when the
-// single selected item is not a clip, the timeline's list otherwise.
+// single selected item is not a clip or has no list, the timeline's list otherwise.
 IMvMarkerList* markerListAtPlayhead(IMvTimeline* timeline, qint64 frame)
 {
     IMvSelection* selection = timeline->selection();
     if (selection && selection->count() == 1 && !selection->isTimelineSelected()) {
         const QList<IMvClip*> clips = selection->selectedClips();
-        if (clips.isEmpty())
+        IMvMarkerList* clipList = clips.isEmpty() || !clips.first() ? nullptr : clips.first()->clipMarkers();
+        if (!clipList)
             return nullptr;
-        IMvMarkerList* clipList = clips.first() ? clips.first()->clipMarkers() : nullptr;
-        if (clipList) {
-            MvRange<qint64> range;
-            clipList->frameRange(range);
-            if (range.first <= frame && frame <= range.last)
-                return clipList;
-        }
+        MvRange<qint64> range;
+        clipList->frameRange(range);
+        if (range.contains(frame))
+            return clipList;
     }
     return timeline->timelineMarkers();
 }

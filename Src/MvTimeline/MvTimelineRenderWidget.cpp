@@ -7,9 +7,9 @@
 
 #include <QPainter>
 
-MvTimelineRenderWidgetPrivate::MvTimelineRenderWidgetPrivate(MvTimelineRenderWidget* q,
-    MvTimelinePresenter* presenter)
-    : q_ptr(q), timelinePresenter(presenter)
+MvTimelineRenderWidgetPrivate::MvTimelineRenderWidgetPrivate(MvTimelineRenderWidget* q, MvTimelinePresenter* presenter)
+    : q_ptr(q)
+    , timelinePresenter(presenter)
 {
     IMvTimeline* timeline = presenter ? presenter->timeline() : nullptr;
     if (!timeline)
@@ -54,7 +54,7 @@ void MvTimelineRenderWidgetPrivate::rebuild()
         for (const MvRenderSegment& segment : qAsConst(segments)) {
             if (segment.end < segment.start)
                 continue;
-            const MvPixelSpan span{ruler->frameToPixel(segment.start), ruler->frameToPixel(segment.end)};
+            const MvPixelSpan span { ruler->frameToPixel(segment.start), ruler->frameToPixel(segment.end) };
             // Only the low 32 bits of the flag count.
             if (quint32(segment.unfinished) != 0)
                 unfinishedSpans.append(span);
@@ -87,7 +87,8 @@ void MvTimelineRenderWidgetPrivate::paint()
 }
 
 MvTimelineRenderWidget::MvTimelineRenderWidget(MvTimelinePresenter* presenter, QWidget* parent)
-    : MvWidget(parent), d_ptr(new MvTimelineRenderWidgetPrivate(this, presenter))
+    : MvWidget(parent)
+    , d_ptr(new MvTimelineRenderWidgetPrivate(this, presenter))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }

@@ -52,9 +52,10 @@ QString formatScaled(int frame, quint64 scaledRate)
 
 }
 
-MvTimelineRulerPresenterPrivate::MvTimelineRulerPresenterPrivate(MvTimelineRulerPresenter* q,
-    MvTimelinePresenter* timelinePresenter)
-    : timelinePresenter(timelinePresenter), q_ptr(q)
+MvTimelineRulerPresenterPrivate::MvTimelineRulerPresenterPrivate(
+    MvTimelineRulerPresenter* q, MvTimelinePresenter* timelinePresenter)
+    : timelinePresenter(timelinePresenter)
+    , q_ptr(q)
 {
     IMvTimeline* timeline = timelinePresenter ? timelinePresenter->timeline() : nullptr;
     if (!timeline)
@@ -197,7 +198,8 @@ void MvTimelineRulerPresenterPrivate::paint(QWidget* widget)
 }
 
 MvTimelineRulerPresenter::MvTimelineRulerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
-    : MvPresenter(parent), d_ptr(new MvTimelineRulerPresenterPrivate(this, timelinePresenter))
+    : MvPresenter(parent)
+    , d_ptr(new MvTimelineRulerPresenterPrivate(this, timelinePresenter))
 {
 }
 

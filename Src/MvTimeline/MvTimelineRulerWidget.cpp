@@ -6,7 +6,9 @@
 #include <QWheelEvent>
 
 MvTimelineRulerWidgetPrivate::MvTimelineRulerWidgetPrivate(MvTimelineRulerWidget* q)
-    : q_ptr(q), gesture(nullptr), eventFilterMgr(new MvEventFilterManager)
+    : q_ptr(q)
+    , gesture(nullptr)
+    , eventFilterMgr(new MvEventFilterManager)
 {
 }
 
@@ -71,7 +73,8 @@ void MvTimelineRulerWidgetPrivate::moveCurrentFrameToCenter()
 }
 
 MvTimelineRulerWidget::MvTimelineRulerWidget(MvTimelineRulerPresenter* presenter, QWidget* parent)
-    : MvWidget(parent), d_ptr(new MvTimelineRulerWidgetPrivate(this))
+    : MvWidget(parent)
+    , d_ptr(new MvTimelineRulerWidgetPrivate(this))
 {
     Q_D(MvTimelineRulerWidget);
     // Made once the private object exists: adding a child already sends this widget an event.

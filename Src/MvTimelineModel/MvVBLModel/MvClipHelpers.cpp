@@ -65,7 +65,10 @@ QList<IMvClip*> IMvClipHelper::findPrepareSplitClip(QList<IMvClip*> clips, bool 
     return prepared;
 }
 
-MvClipFinder::MvClipFinder(IMvTimeline* timeline) : m_timeline(timeline) { }
+MvClipFinder::MvClipFinder(IMvTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 QList<IMvClip*> MvClipFinder::findClips(qint64 frame) const
 {
@@ -105,7 +108,10 @@ bool MvMotionTrackHelper::isTracingEnable(IMvClip* clip) const
     return clip->isMotionTrackingEnabled();
 }
 
-MvKeyFrameHelper2::MvKeyFrameHelper2(IMvClip* clip) : m_clip(clip) { }
+MvKeyFrameHelper2::MvKeyFrameHelper2(IMvClip* clip)
+    : m_clip(clip)
+{
+}
 
 bool MvKeyFrameHelper2::addKeyFrame(qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties)
 {

@@ -16,7 +16,11 @@ bool MvMemoryClip::State::operator==(const State& other) const
 
 // ---- transitions
 
-MvMemoryTransition::MvMemoryTransition(int identifier, const State& state) : m_identifier(identifier), m_state(state) { }
+MvMemoryTransition::MvMemoryTransition(int identifier, const State& state)
+    : m_identifier(identifier)
+    , m_state(state)
+{
+}
 
 MvClipType MvMemoryTransition::type() const
 {
@@ -129,7 +133,8 @@ void MvMemorySmartKeyingNodes::setSelectedIndex(quint64 index)
 
 void MvMemorySmartKeyingNodes::removeAt(quint64 index)
 {
-    MvMemoryTimeline::Edit edit(m_clip->timeline(), "removeSmartKeyingNode", QStringLiteral("remove smart keying node"));
+    MvMemoryTimeline::Edit edit(
+        m_clip->timeline(), "removeSmartKeyingNode", QStringLiteral("remove smart keying node"));
     if (index >= quint64(count()))
         return;
     --m_clip->mutableState().smartKeyingNodes;
@@ -311,7 +316,8 @@ void MvMemoryClip::setName(const QString& name)
 
 void MvMemoryClip::setEnabled(bool enabled)
 {
-    MvMemoryTimeline::Edit edit(m_timeline, "setEnabled", enabled ? QStringLiteral("enable clip") : QStringLiteral("disable clip"));
+    MvMemoryTimeline::Edit edit(
+        m_timeline, "setEnabled", enabled ? QStringLiteral("enable clip") : QStringLiteral("disable clip"));
     m_state.enabled = enabled;
 }
 

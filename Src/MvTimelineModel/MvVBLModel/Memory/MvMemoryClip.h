@@ -28,8 +28,8 @@ public:
 
         bool operator==(const State& other) const
         {
-            return owner == other.owner && placement == other.placement && length == other.length
-                && name == other.name && attached == other.attached;
+            return owner == other.owner && placement == other.placement && length == other.length && name == other.name
+                && attached == other.attached;
         }
     };
 
@@ -59,7 +59,10 @@ private:
 class MVVBLMODEL_EXPORT MvMemoryTransitionList : public IMvTransitionList
 {
 public:
-    explicit MvMemoryTransitionList(MvMemoryClip* clip) : m_clip(clip) { }
+    explicit MvMemoryTransitionList(MvMemoryClip* clip)
+        : m_clip(clip)
+    {
+    }
 
     QList<IMvTransition*> transitions() const override;
     bool remove(int identifier, quint16 placement) override;
@@ -71,7 +74,10 @@ private:
 class MVVBLMODEL_EXPORT MvMemoryFreezeFrameList : public IMvFreezeFrameList
 {
 public:
-    explicit MvMemoryFreezeFrameList(MvMemoryClip* clip) : m_clip(clip) { }
+    explicit MvMemoryFreezeFrameList(MvMemoryClip* clip)
+        : m_clip(clip)
+    {
+    }
 
     QList<int> ids() const override;
     bool contains(int id) const override;
@@ -85,7 +91,10 @@ private:
 class MVVBLMODEL_EXPORT MvMemorySmartKeyingNodes : public IMvSmartKeyingNodes
 {
 public:
-    explicit MvMemorySmartKeyingNodes(MvMemoryClip* clip) : m_clip(clip) { }
+    explicit MvMemorySmartKeyingNodes(MvMemoryClip* clip)
+        : m_clip(clip)
+    {
+    }
 
     int count() const override;
     quint64 selectedIndex() const override;
@@ -148,7 +157,8 @@ public:
     IMvClip* motionTrackFollower() const override;
     bool isMotionTrackingEnabled() const override;
     QList<qint64> keyFrames(bool audio) const override;
-    bool addKeyFrame(bool audio, qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties) override;
+    bool addKeyFrame(
+        bool audio, qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties) override;
     bool canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) const override;
     bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) override;
     IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const override;

@@ -2,7 +2,10 @@
 
 #include "MvMemoryTimeline.h"
 
-MvMemoryEditService::MvMemoryEditService(MvMemoryTimeline* timeline) : m_timeline(timeline) { }
+MvMemoryEditService::MvMemoryEditService(MvMemoryTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 void MvMemoryEditService::groupMembersOf(IMvClip* clip, QList<IMvClip*>& members, bool includeUngrouped) const
 {
@@ -17,7 +20,8 @@ void MvMemoryEditService::groupMembersOf(IMvClip* clip, QList<IMvClip*>& members
         members.append(own);
 }
 
-void MvMemoryEditService::collectGroupMembers(const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const
+void MvMemoryEditService::collectGroupMembers(
+    const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const
 {
     members.clear();
     for (IMvClip* clip : clips) {

@@ -12,7 +12,8 @@ public:
     explicit MvMemoryEditService(MvMemoryTimeline* timeline);
 
     void groupMembersOf(IMvClip* clip, QList<IMvClip*>& members, bool includeUngrouped) const override;
-    void collectGroupMembers(const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const override;
+    void collectGroupMembers(
+        const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const override;
     void ungroup(const QList<IMvClip*>& members) override;
     void group(const QList<IMvClip*>& members, int groupKind) override;
 

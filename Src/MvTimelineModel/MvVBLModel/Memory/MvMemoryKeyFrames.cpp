@@ -22,7 +22,10 @@ IMvKeyFrameSelector::MvSelectData cleaned(const IMvKeyFrameSelector::MvSelectDat
 }
 }
 
-MvMemoryKeyFrameSelector::MvMemoryKeyFrameSelector(MvMemoryTimeline* timeline) : m_timeline(timeline) { }
+MvMemoryKeyFrameSelector::MvMemoryKeyFrameSelector(MvMemoryTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 IMvKeyFrameSelector::MvSelectData MvMemoryKeyFrameSelector::currentSelection() const
 {
@@ -57,7 +60,10 @@ void MvMemoryKeyFrameSelector::prune()
     m_selection = cleaned(m_selection, clip);
 }
 
-MvMemoryKeyFrameClipboard::MvMemoryKeyFrameClipboard(MvMemoryTimeline* timeline) : m_timeline(timeline) { }
+MvMemoryKeyFrameClipboard::MvMemoryKeyFrameClipboard(MvMemoryTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 bool MvMemoryKeyFrameClipboard::copy(IMvClip* clip, bool audio, const IMvKeyFrameSelector::MvSelectData& selection)
 {

@@ -6,7 +6,11 @@
 
 #include <algorithm>
 
-MvMemoryMarker::MvMemoryMarker(MvMemoryMarkerList* owner, const State& state) : m_owner(owner), m_state(state) { }
+MvMemoryMarker::MvMemoryMarker(MvMemoryMarkerList* owner, const State& state)
+    : m_owner(owner)
+    , m_state(state)
+{
+}
 
 IMvMarkerList* MvMemoryMarker::ownerList() const
 {
@@ -61,7 +65,9 @@ bool MvMemoryMarker::isAttached() const
 
 // ---- list
 
-MvMemoryMarkerList::MvMemoryMarkerList(MvMemoryTimeline* timeline, MvMemoryClip* clip) : m_timeline(timeline), m_clip(clip)
+MvMemoryMarkerList::MvMemoryMarkerList(MvMemoryTimeline* timeline, MvMemoryClip* clip)
+    : m_timeline(timeline)
+    , m_clip(clip)
 {
 }
 
@@ -220,7 +226,10 @@ void MvMemoryMarkerList::markerEdit(MvMemoryMarker* marker, const char* operatio
 
 // ---- marker model
 
-MvMemoryMarkerModel::MvMemoryMarkerModel(MvMemoryTimeline* timeline) : m_timeline(timeline) { }
+MvMemoryMarkerModel::MvMemoryMarkerModel(MvMemoryTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 // A marker that an edit or undo took away is no longer selected.
 IMvMarker* MvMemoryMarkerModel::selectedMarker() const

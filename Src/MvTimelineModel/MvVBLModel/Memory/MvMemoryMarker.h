@@ -54,13 +54,10 @@ class MVVBLMODEL_EXPORT MvMemoryMarkerList : public IMvMarkerList
 public:
     struct State
     {
-        QList<MvMemoryMarker*> attached;      // ordered by frame
+        QList<MvMemoryMarker*> attached; // ordered by frame
         QList<MvMemoryMarker::State> markers; // one per marker ever created, in creation order
 
-        bool operator==(const State& other) const
-        {
-            return attached == other.attached && markers == other.markers;
-        }
+        bool operator==(const State& other) const { return attached == other.attached && markers == other.markers; }
     };
 
     MvMemoryMarkerList(MvMemoryTimeline* timeline, MvMemoryClip* clip);

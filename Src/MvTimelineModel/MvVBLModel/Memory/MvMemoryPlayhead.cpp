@@ -5,7 +5,10 @@
 
 #include <cmath>
 
-MvMemoryPlayhead::MvMemoryPlayhead(MvMemoryTimeline* timeline) : m_timeline(timeline) { }
+MvMemoryPlayhead::MvMemoryPlayhead(MvMemoryTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 void MvMemoryPlayhead::addObserver(IMvPlayheadEventObserver* observer)
 {

@@ -117,11 +117,11 @@ bool MvMemoryRenderService::mark(qint64 start, qint64 end, bool unfinished)
         }
         // Keep what sticks out on either side of the marked stretch.
         if (segment.start < start)
-            result.append({segment.start, start - 1, segment.unfinished});
+            result.append({ segment.start, start - 1, segment.unfinished });
         if (segment.end > end)
-            result.append({end + 1, segment.end, segment.unfinished});
+            result.append({ end + 1, segment.end, segment.unfinished });
     }
-    result.append({start, end, unfinished ? 1u : 0u});
+    result.append({ start, end, unfinished ? 1u : 0u });
     std::stable_sort(result.begin(), result.end(),
         [](const MvRenderSegment& a, const MvRenderSegment& b) { return a.start < b.start; });
 
@@ -136,7 +136,7 @@ bool MvMemoryRenderService::mark(qint64 start, qint64 end, bool unfinished)
                 continue;
             }
         }
-        merged.append({segment.start, segment.end, pending ? 1u : 0u});
+        merged.append({ segment.start, segment.end, pending ? 1u : 0u });
     }
     replace(merged);
     return true;
@@ -150,8 +150,7 @@ void MvMemoryRenderService::replace(const QList<MvRenderSegment>& segments)
     notify([](IMvTimelineRenderEventObserver* observer) { observer->onSegmentsChanged(); });
 }
 
-template<typename Call>
-void MvMemoryRenderService::notify(Call call)
+template <typename Call> void MvMemoryRenderService::notify(Call call)
 {
     // Observers may unregister while being told; walk a copy.
     const QList<IMvTimelineRenderEventObserver*> observers = m_observers;

@@ -43,8 +43,7 @@ public:
 private:
     bool mark(qint64 start, qint64 end, bool unfinished);
     void replace(const QList<MvRenderSegment>& segments);
-    template<typename Call>
-    void notify(Call call);
+    template <typename Call> void notify(Call call);
 
     QList<MvRenderSegment> m_segments;
     QList<IMvTimelineRenderEventObserver*> m_observers;

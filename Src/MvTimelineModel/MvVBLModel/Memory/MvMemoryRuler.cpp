@@ -155,7 +155,10 @@ qint64 MvMemoryRuler::pixelToFrame(int x) const
 
 int MvMemoryRuler::framesInPixels(int pixels) const
 {
-    const double frames = double(pixels) / double(m_state.ratio);
+    // The ratio is a float: 600 px over 1800 frames is a hair above 1/3, and 30 px must still
+    // cover 90 frames, not 89.
+    double frames = double(pixels) / double(m_state.ratio);
+    frames += frames >= 0.0 ? 1e-4 : -1e-4;
     const double limit = double(std::numeric_limits<int>::max());
     return int(qBound(-limit, frames, limit));
 }
@@ -238,10 +241,10 @@ qint64 MvMemoryRuler::framesPerTickFor(double pixelsPerFrame, int nominalFps)
 {
     nominalFps = qBound(1, nominalFps, 1000);
     // Round units of time in frames; each is what five ticks make.
-    QList<qint64> majors{5, 10};
+    QList<qint64> majors { 5, 10 };
     if (nominalFps % 2 == 0)
         majors.append(nominalFps / 2);
-    for (qint64 seconds : {1, 5, 10, 15, 30, 60, 300, 600, 900, 1800, 3600, 7200, 18000, 36000})
+    for (qint64 seconds : { 1, 5, 10, 15, 30, 60, 300, 600, 900, 1800, 3600, 7200, 18000, 36000 })
         majors.append(seconds * nominalFps);
     qint64 previous = 0;
     for (qint64 major : qAsConst(majors)) {
@@ -255,7 +258,7 @@ qint64 MvMemoryRuler::framesPerTickFor(double pixelsPerFrame, int nominalFps)
     // Beyond ten hours: 20, 50, 100, 200, 500 hours and so on.
     qint64 decade = 10;
     while (true) {
-        for (qint64 step : {2, 5, 10}) {
+        for (qint64 step : { 2, 5, 10 }) {
             const qint64 major = decade * step * 3600 * nominalFps;
             if (double(major / 5) * pixelsPerFrame >= kMinTickSpacing || decade > (qint64(1) << 32))
                 return major / 5;

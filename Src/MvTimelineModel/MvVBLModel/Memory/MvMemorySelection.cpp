@@ -3,7 +3,10 @@
 #include "IMvAbstractClip.h"
 #include "MvMemoryTimeline.h"
 
-MvMemorySelection::MvMemorySelection(MvMemoryTimeline* timeline) : m_timeline(timeline) { }
+MvMemorySelection::MvMemorySelection(MvMemoryTimeline* timeline)
+    : m_timeline(timeline)
+{
+}
 
 void MvMemorySelection::select(const QList<IMvClip*>& clips)
 {

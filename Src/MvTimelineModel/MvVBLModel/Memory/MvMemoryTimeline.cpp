@@ -6,9 +6,12 @@
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
 #include "MvMemoryRenderService.h"
+#include "MvMemoryRuler.h"
 #include "MvMemorySelection.h"
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
+
+#include <limits>
 
 using namespace MVVBLMODEL;
 
@@ -25,7 +28,9 @@ MvMemoryTimeline::Edit::~Edit()
     m_timeline->d_func()->undo->endStep();
 }
 
-MvMemoryTimelinePrivate::MvMemoryTimelinePrivate(MvMemoryTimeline* q, int timelineKind) : q_ptr(q), kind(timelineKind)
+MvMemoryTimelinePrivate::MvMemoryTimelinePrivate(MvMemoryTimeline* q, int timelineKind)
+    : q_ptr(q)
+    , kind(timelineKind)
 {
 }
 
@@ -111,9 +116,52 @@ void MvMemoryTimelinePrivate::afterChange()
     }
 }
 
-void MvMemoryTimelinePrivate::modelChanged()
+namespace {
+// What a viewer sees or hears of a clip: everything but its markers.
+bool rendersAlike(MvMemoryClip::State a, MvMemoryClip::State b)
+{
+    a.markers = {};
+    b.markers = {};
+    return a == b;
+}
+}
+
+void MvMemoryTimelinePrivate::modelChanged(const MvMemoryModelState& from, const MvMemoryModelState& to)
 {
     playhead->timelineEdited();
+    auto* render = dynamic_cast<MvMemoryRenderService*>(renderService);
+    if (!render)
+        return;
+    qint64 first = std::numeric_limits<qint64>::max();
+    qint64 last = -1;
+    auto cover = [&](const MvMemoryClip::State* state) {
+        if (state && state->track) {
+            first = qMin(first, state->start);
+            last = qMax(last, state->end);
+        }
+    };
+    const int clipCount = qMax(from.clips.size(), to.clips.size());
+    for (int i = 0; i < clipCount; ++i) {
+        const MvMemoryClip::State* before = i < from.clips.size() ? &from.clips.at(i) : nullptr;
+        const MvMemoryClip::State* after = i < to.clips.size() ? &to.clips.at(i) : nullptr;
+        if (!before || !after || !rendersAlike(*before, *after)) {
+            cover(before);
+            cover(after);
+        }
+    }
+    const int transitionCount = qMin(from.transitions.size(), to.transitions.size());
+    for (int i = 0; i < qMax(from.transitions.size(), to.transitions.size()); ++i) {
+        if (i < transitionCount && from.transitions.at(i) == to.transitions.at(i))
+            continue;
+        for (const MvMemoryModelState* state : { &from, &to }) {
+            if (i < state->transitions.size() && state->transitions.at(i).owner) {
+                const int owner = allClips.indexOf(state->transitions.at(i).owner);
+                cover(owner >= 0 && owner < state->clips.size() ? &state->clips.at(owner) : nullptr);
+            }
+        }
+    }
+    if (last >= first)
+        render->markUnfinished(first, last);
 }
 
 void MvMemoryTimelinePrivate::record(const char* operation) const
@@ -137,11 +185,13 @@ void MvMemoryTimelinePrivate::build(const char* operation, const QString& stepNa
     undo->clear();
 }
 
-MvMemoryTimeline::MvMemoryTimeline(int kind) : d_ptr(new MvMemoryTimelinePrivate(this, kind))
+MvMemoryTimeline::MvMemoryTimeline(int kind)
+    : d_ptr(new MvMemoryTimelinePrivate(this, kind))
 {
     Q_D(MvMemoryTimeline);
     d->undo = new MvMemoryUndoService([d] { return d->capture(); },
-        [d](const MvMemoryModelState& state) { d->restore(state); }, [d] { d->modelChanged(); });
+        [d](const MvMemoryModelState& state) { d->restore(state); },
+        [d](const MvMemoryModelState& from, const MvMemoryModelState& to) { d->modelChanged(from, to); });
     d->playhead = new MvMemoryPlayhead(this);
     d->selection = new MvMemorySelection(this);
     d->subItemSelection = new MvMemorySubItemSelection;
@@ -288,6 +338,17 @@ IMvTimelineRenderService* MvMemoryTimeline::renderService() const
     return d->renderService;
 }
 
+MvMemoryRuler* MvMemoryTimeline::rulerImpl() const
+{
+    Q_D(const MvMemoryTimeline);
+    return dynamic_cast<MvMemoryRuler*>(d->ruler);
+}
+
+MvMemoryRenderService* MvMemoryTimeline::renderServiceImpl() const
+{
+    return dynamic_cast<MvMemoryRenderService*>(renderService());
+}
+
 IMvTimelineRenderService* MvMemoryTimeline::createRenderService()
 {
     return new MvMemoryRenderService;
@@ -379,7 +440,8 @@ MvMemoryClip* MvMemoryTimeline::addClip(int trackIndex, MvClipType type, qint64 
     return clip;
 }
 
-MvMemoryTransition* MvMemoryTimeline::addTransition(MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name)
+MvMemoryTransition* MvMemoryTimeline::addTransition(
+    MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name)
 {
     Q_D(MvMemoryTimeline);
     if (!owner || owner->timeline() != this || !owner->isOnTimeline() || length < 1 || length > owner->frameCount())

@@ -12,6 +12,8 @@ class MvMemoryKeyFrameClipboard;
 class MvMemoryKeyFrameSelector;
 class MvMemoryMarkerModel;
 class MvMemoryPlayhead;
+class MvMemoryRenderService;
+class MvMemoryRuler;
 class MvMemorySelection;
 class MvMemorySubItemSelection;
 class MvMemoryTimelinePrivate;
@@ -108,6 +110,9 @@ public:
     MvMemoryKeyFrameSelector* keyFrameSelectorImpl() const;
     MvMemoryKeyFrameClipboard* keyFrameClipboardImpl() const;
     MvMemoryTrack* memoryTrack(int index) const;
+    MvMemoryRuler* rulerImpl() const;
+    // Null when a subclass's factory made a render service of another kind.
+    MvMemoryRenderService* renderServiceImpl() const;
     // Clips on the timeline, track by track from the top, each track by start.
     QList<MvMemoryClip*> liveClips() const;
     // Every clip ever created, detached ones included, in creation order.

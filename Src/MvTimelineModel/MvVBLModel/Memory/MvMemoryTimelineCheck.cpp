@@ -9,6 +9,8 @@
 
 #include <QSet>
 
+#include <limits>
+
 namespace {
 QString num(qint64 value)
 {
@@ -38,10 +40,14 @@ QString markersText(const MvMemoryMarkerList* list)
     return parts.join(QLatin1String("; "));
 }
 
-void checkMarkers(const MvMemoryMarkerList* list, const QString& owner, QStringList& problems)
+// Timeline markers may outlive the clips under them: a timeline that becomes shorter keeps the
+// markers past its new end (only new markers must lie on it). Clip markers stay on their clip.
+void checkMarkers(const MvMemoryMarkerList* list, const QString& owner, bool openEnded, QStringList& problems)
 {
     MvRange<qint64> range;
     list->frameRange(range);
+    if (openEnded)
+        range.last = std::numeric_limits<qint64>::max();
     const QList<MvMemoryMarker*> markers = list->attachedMarkers();
     for (int i = 0; i < markers.size(); ++i) {
         const qint64 at = list->mapToTimeline(markers.at(i)->frame());
@@ -111,7 +117,7 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
         }
         if (!MvMemoryClip::hasPicture(clip->type()) && !ids.isEmpty())
             problems.append(clipId(clip) % QLatin1String(": freeze frame on a clip without picture"));
-        checkMarkers(clip->markerList(), clipId(clip), problems);
+        checkMarkers(clip->markerList(), clipId(clip), false, problems);
     }
     for (const MvMemoryGroup& group : groups) {
         if (group.members.size() < 2)
@@ -128,7 +134,8 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
         if (!transition->isLive())
             continue;
         if (transition->length() < 1 || transition->length() > transition->owner()->frameCount())
-            problems.append(QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
+            problems.append(
+                QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
     }
 }
 
@@ -142,7 +149,7 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
         if (items.indexOf(items.at(i)) != i)
             problems.append(QStringLiteral("selection holds an item twice"));
     }
-    checkMarkers(timelineMarkers, QStringLiteral("timeline"), problems);
+    checkMarkers(timelineMarkers, QStringLiteral("timeline"), true, problems);
     const qint64 length = q->duration();
     if (playhead->currentFrame() < 0 || playhead->currentFrame() > length)
         problems.append(QStringLiteral("playhead outside the timeline"));
@@ -172,10 +179,10 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     const MvMemoryClip::State state = clip->state();
     QString text = QLatin1String("  ") % clipId(clip) % QLatin1String(" type=") % num(state.type) % QLatin1String(" \"")
         % state.name % QLatin1String("\" ") % num(state.start) % QLatin1String("..") % num(state.end)
-        % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=")
-        % num(q->groupKindOf(clip)) % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=")
-        % num(state.enabled) % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=")
-        % num(state.tracking) % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
+        % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=") % num(q->groupKindOf(clip))
+        % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=") % num(state.enabled)
+        % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=") % num(state.tracking)
+        % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
     text += QLatin1String("\n    markers: ") % markersText(clip->markerList());
     text += QLatin1String("\n    video keys: ") % keysText(state.videoKeys);
     text += QLatin1String("\n    audio keys: ") % keysText(state.audioKeys);
@@ -196,8 +203,8 @@ QString MvMemoryTimeline::stateText() const
 {
     Q_D(const MvMemoryTimeline);
     QStringList lines;
-    lines.append(QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ")
-        % num(d->playhead->currentFrame()));
+    lines.append(
+        QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ") % num(d->playhead->currentFrame()));
     for (int row = 0; row < d->tracks.size(); ++row) {
         const MvMemoryTrack* track = d->tracks.at(row);
         lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
@@ -210,7 +217,8 @@ QString MvMemoryTimeline::stateText() const
         QStringList members;
         for (const MvMemoryClip* member : group.members)
             members.append(d->clipId(member));
-        lines.append(QLatin1String("group kind=") % num(group.kind) % QLatin1String(": ") % members.join(QLatin1Char(' ')));
+        lines.append(
+            QLatin1String("group kind=") % num(group.kind) % QLatin1String(": ") % members.join(QLatin1Char(' ')));
     }
     lines.append(QLatin1String("timeline markers: ") % markersText(d->timelineMarkers));
     QStringList selected;

@@ -8,8 +8,7 @@
 
 namespace {
 // Keys at offset and after go to the returned map, rebased to offset; the rest stay.
-template <typename Map>
-Map splitTail(Map& source, qint64 offset)
+template <typename Map> Map splitTail(Map& source, qint64 offset)
 {
     Map tail;
     for (auto it = source.begin(); it != source.end();) {
@@ -120,7 +119,8 @@ bool MvMemoryTimeline::rippleDeleteClips(QList<IMvClip*> clips)
             return false;
     }
     // Latest first, so that each shift sees the positions the later removals left.
-    std::sort(live.begin(), live.end(), [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() > b->start(); });
+    std::sort(
+        live.begin(), live.end(), [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() > b->start(); });
     for (MvMemoryClip* removed : qAsConst(live)) {
         MvMemoryTrack* track = removed->trackImpl();
         const qint64 length = removed->frameCount();

@@ -19,8 +19,9 @@ public:
     void restore(const MvMemoryModelState& state);
     // After each edit and each undo or redo: drop dead selections, follow the duration.
     void afterChange();
-    // After a step was recorded, undone or redone.
-    void modelChanged();
+    // After a step was recorded, undone or redone: the stretch whose picture or sound changed
+    // needs rendering again.
+    void modelChanged(const MvMemoryModelState& from, const MvMemoryModelState& to);
     void record(const char* operation) const;
     // A building call: joins an open step; outside a step it is applied directly and the history,
     // which no longer describes the model, is cleared.

@@ -5,7 +5,8 @@
 
 #include <algorithm>
 
-MvMemoryTrack::MvMemoryTrack(MvMemoryTimeline* timeline, MVVBLMODEL::MvTrackType type) : m_timeline(timeline)
+MvMemoryTrack::MvMemoryTrack(MvMemoryTimeline* timeline, MVVBLMODEL::MvTrackType type)
+    : m_timeline(timeline)
 {
     m_state.type = type;
 }
@@ -29,7 +30,8 @@ void MvMemoryTrack::setLocked(bool locked)
 {
     if (m_state.locked == locked)
         return;
-    MvMemoryTimeline::Edit edit(m_timeline, "setLocked", locked ? QStringLiteral("lock track") : QStringLiteral("unlock track"));
+    MvMemoryTimeline::Edit edit(
+        m_timeline, "setLocked", locked ? QStringLiteral("lock track") : QStringLiteral("unlock track"));
     m_state.locked = locked;
 }
 

@@ -1,7 +1,9 @@
 #include "MvMemoryUndoService.h"
 
 MvMemoryUndoService::MvMemoryUndoService(Capture capture, Restore restore, Changed changed)
-    : m_capture(std::move(capture)), m_restore(std::move(restore)), m_changed(std::move(changed))
+    : m_capture(std::move(capture))
+    , m_restore(std::move(restore))
+    , m_changed(std::move(changed))
 {
 }
 
@@ -26,7 +28,7 @@ void MvMemoryUndoService::endStep()
     m_open = Step();
     m_redo.clear();
     if (m_changed)
-        m_changed();
+        m_changed(m_undo.last().before, m_undo.last().after);
 }
 
 bool MvMemoryUndoService::isStepOpen() const
@@ -52,7 +54,7 @@ bool MvMemoryUndoService::undo()
     m_restore(step.before);
     m_redo.append(step);
     if (m_changed)
-        m_changed();
+        m_changed(step.after, step.before);
     return true;
 }
 
@@ -64,7 +66,7 @@ bool MvMemoryUndoService::redo()
     m_restore(step.after);
     m_undo.append(step);
     if (m_changed)
-        m_changed();
+        m_changed(step.before, step.after);
     return true;
 }
 

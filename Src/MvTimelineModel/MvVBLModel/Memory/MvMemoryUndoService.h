@@ -12,7 +12,8 @@ class MVVBLMODEL_EXPORT MvMemoryUndoService : public IMvUndoRedoService
 public:
     using Capture = std::function<MvMemoryModelState()>;
     using Restore = std::function<void(const MvMemoryModelState&)>;
-    using Changed = std::function<void()>;
+    // Told after a step was recorded, undone or redone, with the model values before and after.
+    using Changed = std::function<void(const MvMemoryModelState& from, const MvMemoryModelState& to)>;
 
     MvMemoryUndoService(Capture capture, Restore restore, Changed changed);
 

@@ -34,14 +34,20 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
         timeline.addTrack(TrackType_Audio);
 
     // Rows: 0 titles and stickers, 1 overlays, 2 the main story, 3 its sound, 4 music.
-    MvMemoryClip* opening = timeline.addClip(2, ClipType_VideoWithAudio, 0, 20 * kSecond - 1, QStringLiteral("Harbour at dawn"));
-    MvMemoryClip* openingSound = timeline.addClip(3, ClipType_Audio, 0, 20 * kSecond - 1, QStringLiteral("Harbour at dawn (sound)"));
-    MvMemoryClip* street = timeline.addClip(2, ClipType_Video, 20 * kSecond, 45 * kSecond - 1, QStringLiteral("Market street"));
-    MvMemoryClip* still = timeline.addClip(2, ClipType_Image, 45 * kSecond, 55 * kSecond - 1, QStringLiteral("Old map"));
+    MvMemoryClip* opening
+        = timeline.addClip(2, ClipType_VideoWithAudio, 0, 20 * kSecond - 1, QStringLiteral("Harbour at dawn"));
+    MvMemoryClip* openingSound
+        = timeline.addClip(3, ClipType_Audio, 0, 20 * kSecond - 1, QStringLiteral("Harbour at dawn (sound)"));
+    MvMemoryClip* street
+        = timeline.addClip(2, ClipType_Video, 20 * kSecond, 45 * kSecond - 1, QStringLiteral("Market street"));
+    MvMemoryClip* still
+        = timeline.addClip(2, ClipType_Image, 45 * kSecond, 55 * kSecond - 1, QStringLiteral("Old map"));
     timeline.addClip(2, ClipType_Video, 55 * kSecond, 90 * kSecond - 1, QStringLiteral("Fishing boats"));
-    MvMemoryClip* screen = timeline.addClip(2, ClipType_ScreenRecording, 90 * kSecond, 118 * kSecond - 1, QStringLiteral("Route planner"));
+    MvMemoryClip* screen = timeline.addClip(
+        2, ClipType_ScreenRecording, 90 * kSecond, 118 * kSecond - 1, QStringLiteral("Route planner"));
     timeline.addClip(0, ClipType_Title, 2 * kSecond, 8 * kSecond - 1, QStringLiteral("A day by the sea"));
-    MvMemoryClip* caption = timeline.addClip(0, ClipType_Text, 25 * kSecond, 32 * kSecond - 1, QStringLiteral("Lower third"));
+    MvMemoryClip* caption
+        = timeline.addClip(0, ClipType_Text, 25 * kSecond, 32 * kSecond - 1, QStringLiteral("Lower third"));
     timeline.addClip(0, ClipType_Sticker, 60 * kSecond, 64 * kSecond - 1, QStringLiteral("Seagull"));
     timeline.addClip(1, ClipType_Image, 70 * kSecond, 80 * kSecond - 1, QStringLiteral("Logo"));
     timeline.addClip(1, ClipType_Subtitle, 92 * kSecond, 100 * kSecond - 1, QStringLiteral("Subtitles"));

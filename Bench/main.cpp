@@ -1,0 +1,16 @@
+#include "MvBenchHarness.h"
+
+#include <QApplication>
+
+void registerRulerBenchmarks();
+
+// mvtimeline-bench [group]: runs every benchmark group, or those whose name contains the argument.
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    registerRulerBenchmarks();
+    const QStringList arguments = app.arguments();
+    return MvBench::runAll(arguments.size() > 1 ? arguments.at(1) : QString());
+}

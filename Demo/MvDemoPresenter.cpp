@@ -1,0 +1,6 @@
+#include "MvDemoPresenter.h"
+
+void MvDemoPresenter::updateAction()
+{
+    Q_EMIT actionsNeedRefresh();
+}
