@@ -1,6 +1,8 @@
 #include "IMvShortcutEditManager.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
+#include "IMvUndoRedoService.h"
+#include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvEventFilterManager.h"
 #include "MvRecordingScene.h"
@@ -169,6 +171,7 @@ private Q_SLOTS:
     void disabledPlayheadCatchesNothing();
     void clickOnTheButtonSplitsOnce();
     void dragOverTheButtonNeverSplits();
+    void clickCutsTheClipUnderThePlayheadInTheModel();
     void draggingTheHeadMovesThePlayheadWithinTheView();
     void draggingTheButtonKeepsItUnderThePointer_data();
     void draggingTheButtonKeepsItUnderThePointer();
@@ -271,6 +274,41 @@ void tst_MvTimelinePlayheadWidget::dragOverTheButtonNeverSplits()
     QVERIFY(f.press(kButton + QPoint(3, 0)));
     QVERIFY(f.release(kButton + QPoint(3, 0)));
     QCOMPARE(f.timelinePresenter.splits, 1);
+}
+
+void tst_MvTimelinePlayheadWidget::clickCutsTheClipUnderThePlayheadInTheModel()
+{
+    MvMemoryTimeline timeline;
+    timeline.addTrack(TrackType_Picture);
+    timeline.addClip(0, ClipType_Video, 0, 999, QStringLiteral("a"));
+    timeline.ruler()->setViewWidth(1000);
+    MvRecordingScene scene;
+    MvTimelinePresenter timelinePresenter(nullptr, &timeline);
+    timelinePresenter.setScene(&scene);
+    MvTimelinePlayheadPresenter presenter(&timelinePresenter, nullptr);
+    TrackArea area;
+    auto* overlay = new MvTimelinePlayheadWidget(&presenter, &area);
+    area.setGeometry(100, 100, 400, 200);
+    overlay->setGeometry(0, 0, 400, 200);
+    area.manager.addFilter(overlay);
+    area.show();
+    timeline.playhead()->setCurrentFrame(300);
+
+    const QPoint button(300, 84);
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(button), QPointF(area.mapToGlobal(button)), Qt::LeftButton,
+        Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&area, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(button), QPointF(area.mapToGlobal(button)), Qt::LeftButton,
+        Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&area, &release);
+
+    const QList<MvMemoryClip*> clips = timeline.liveClips();
+    QCOMPARE(clips.size(), 2);
+    QCOMPARE(clips.at(0)->end(), 299);
+    QCOMPARE(clips.at(1)->start(), 300);
+    QCOMPARE(timeline.undoRedoService()->undoName(), QStringLiteral("split"));
+    QCOMPARE(timeline.checkInvariants(), QString());
+    area.manager.removeFilter(overlay);
 }
 
 void tst_MvTimelinePlayheadWidget::draggingTheHeadMovesThePlayheadWithinTheView()
