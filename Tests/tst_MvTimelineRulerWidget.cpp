@@ -1,4 +1,6 @@
+#include "IMvEventFilter.h"
 #include "IMvTimelinePlayhead.h"
+#include "MvEventFilterManager.h"
 #include "Memory/MvMemoryRuler.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvRulerGesture_p.h"
@@ -41,6 +43,13 @@ public:
     int paints = 0;
 };
 
+// An overlay that takes the presses it is offered, as the playhead widget does over its head.
+class PressTaker : public IMvEventFilter
+{
+public:
+    bool onFilterEvent(QEvent* event) override { return event->type() == QEvent::MouseButtonPress; }
+};
+
 // A one-minute timeline at 30 fps under a 600 px ruler (three frames a pixel), with its presenters.
 struct Fixture
 {
@@ -73,6 +82,7 @@ private Q_SLOTS:
     void init();
     void gesturesGoThroughThePresenter();
     void theWidgetFollowsItsPresenter();
+    void overlaysSeeEventsFirst();
 
 private:
     QScopedPointer<Fixture> m_f;
@@ -85,6 +95,22 @@ void tst_MvTimelineRulerWidget::init()
     m_f->widget.show();
     QVERIFY(QTest::qWaitForWindowExposed(&m_f->widget));
     m_f->widget.findChild<MvRulerGesture*>()->setClock([this] { return m_now; });
+}
+
+void tst_MvTimelineRulerWidget::overlaysSeeEventsFirst()
+{
+    PressTaker overlay;
+    MvEventFilterManager* filters = m_f->widget.eventFilterMgr();
+    filters->addFilter(&overlay);
+    filters->setCursor(Qt::PointingHandCursor);
+    const qint64 before = m_f->timeline.playhead()->currentFrame();
+    QTest::mouseClick(&m_f->widget, Qt::LeftButton, Qt::NoModifier, QPoint(300, 5));
+    // The press was consumed: the release alone is no click, and the overlay's cursor shows.
+    QCOMPARE(m_f->timeline.playhead()->currentFrame(), before);
+    QCOMPARE(m_f->widget.cursor().shape(), Qt::PointingHandCursor);
+    filters->removeFilter(&overlay);
+    QTest::mouseClick(&m_f->widget, Qt::LeftButton, Qt::NoModifier, QPoint(300, 5));
+    QCOMPARE(m_f->timeline.playhead()->currentFrame(), qint64(900));
 }
 
 void tst_MvTimelineRulerWidget::gesturesGoThroughThePresenter()
