@@ -9,15 +9,13 @@
 #include "MvDemoPlayer.h"
 #include "MvDemoPresenter.h"
 #include "MvKeyFramePresenter.h"
+#include "MvMarkerPresenter.h"
 #include "MvTimelineVirtualPlayheadPresenter.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 
-namespace {
-const QColor MarkerColor(0x4F, 0xC3, 0xF7);
-}
 
 void MvDemoWindow::buildClipMenu()
 {
@@ -61,9 +59,11 @@ void MvDemoWindow::buildMarkerAndKeyFrameMenus()
     MvDemoPresenter* p = m_presenter;
     QMenu* markers = menuBar()->addMenu(tr("&Markers"));
     addCommand(markers, QStringLiteral("add-marker"), tr("&Add Marker"), QKeySequence(Qt::Key_M),
-        [p] { p->addMarker(MarkerColor); });
+        [p] { p->addMarker(MvMarkerPresenter::markerPalette().at(4)); });
     addCommand(markers, QStringLiteral("remove-marker"), tr("&Remove Selected Marker"),
         QKeySequence(Qt::SHIFT + Qt::Key_M), [p] { p->removeSelectedMarker(); });
+    addCommand(markers, QStringLiteral("edit-marker"), tr("&Edit Marker at Playhead..."),
+        QKeySequence(Qt::CTRL + Qt::Key_M), [p] { p->editMarker(); });
 
     QMenu* keys = menuBar()->addMenu(tr("&Keyframes"));
     addCommand(keys, QStringLiteral("add-keyframe"), tr("&Add Keyframe"), QKeySequence(Qt::Key_K),

@@ -12,17 +12,24 @@ MvDemoRenderSimulator::MvDemoRenderSimulator(IMvTimeline* timeline, QObject* par
     : QObject(parent), m_timeline(timeline), m_service(dynamic_cast<MvMemoryRenderService*>(timeline->renderService()))
 {
     connect(&m_timer, &QTimer::timeout, this, &MvDemoRenderSimulator::step);
-    invalidate();
-}
-
-void MvDemoRenderSimulator::invalidate()
-{
     if (!m_service)
         return;
-    m_service->clearSegments();
-    m_service->markUnfinished(0, m_timeline->duration());
+    m_service->addObserver(this);
+    // A freshly opened project has no preview yet.
+    m_service->markUnfinished(0, m_timeline->duration() - 1);
     m_service->notifyPrepareStart();
-    m_timer.start(TickMs);
+}
+
+MvDemoRenderSimulator::~MvDemoRenderSimulator()
+{
+    if (m_service)
+        m_service->removeObserver(this);
+}
+
+void MvDemoRenderSimulator::onSegmentsChanged()
+{
+    if (m_service->unfinishedFrames() > 0 && !m_timer.isActive())
+        m_timer.start(TickMs);
 }
 
 void MvDemoRenderSimulator::step()

@@ -7,9 +7,17 @@
 #include "IMvSelection.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTrack.h"
+#include "IMvMarker.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvDemoTrackArea.h"
+#include "MvTimelinePlayheadPresenter.h"
+#include "MvTimelinePlayheadWidget.h"
 
 #include <QAction>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QPlainTextEdit>
+#include <QTimer>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -50,6 +58,63 @@ void MvDemoScenario::seekInto(const QString& name, double fraction)
 void MvDemoScenario::seek(qint64 frame)
 {
     m_window->timeline()->playhead()->setCurrentFrame(frame);
+}
+
+void MvDemoScenario::mouse(QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons)
+{
+    // Real mouse events on the track area, which offers them to the playhead overlay first.
+    QWidget* area = m_window->trackArea();
+    const QPoint local = area->mapFromGlobal(global);
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, local, local, global, button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(area, &event);
+}
+
+QPoint MvDemoScenario::splitButtonCenter() const
+{
+    MvTimelinePlayheadWidget* overlay = m_window->playheadWidget();
+    return overlay->mapToGlobal(overlay->presenter()->splitButtonRect().center());
+}
+
+void MvDemoScenario::dragSplitButton(int dx, int dy)
+{
+    const QPoint from = splitButtonCenter();
+    mouse(QEvent::MouseButtonPress, from, Qt::LeftButton);
+    mouse(QEvent::MouseMove, from + QPoint(dx / 2, dy / 2), Qt::LeftButton);
+    mouse(QEvent::MouseMove, from + QPoint(dx, dy), Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, from + QPoint(dx, dy), Qt::NoButton);
+}
+
+void MvDemoScenario::clickSplitButton()
+{
+    const QPoint at = splitButtonCenter();
+    mouse(QEvent::MouseButtonPress, at, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, at, Qt::NoButton);
+}
+
+void MvDemoScenario::editFirstTimelineMarker(int index)
+{
+    IMvMarker* marker = m_window->timeline()->timelineMarkers()->markers().value(0);
+    if (!marker)
+        return;
+    m_window->timeline()->selection()->clear();
+    seek(marker->frame());
+    // The editor is modal: fill it in and press OK from inside its own event loop.
+    QTimer::singleShot(0, [this, index] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        if (auto* name = dialog->findChild<QPlainTextEdit*>())
+            name->setPlainText(QStringLiteral("Opening shot"));
+        QApplication::processEvents();
+        dialog->grab().save(QDir(m_outputDir).filePath(QStringLiteral("%1-marker-editor.png").arg(index, 2, 10, QLatin1Char('0'))));
+        const QList<QPushButton*> buttons = dialog->findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) {
+            if (button->text() == QObject::tr("OK"))
+                button->click();
+        }
+    });
+    trigger(QStringLiteral("edit-marker"));
 }
 
 void MvDemoScenario::trigger(const QString& actionName)
@@ -100,6 +165,13 @@ QList<MvDemoScenario::Step> MvDemoScenario::steps()
              for (int i = 0; i < 30; ++i)
                  m_window->renderSimulator()->step();
          } },
+        { QStringLiteral("playhead-dragged-by-split-button"), [this] {
+             m_window->timeline()->selection()->clear();
+             seek(0);
+             dragSplitButton(420, 40);
+         } },
+        { QStringLiteral("split-button-clicked"), [this] { clickSplitButton(); } },
+        { QStringLiteral("marker-edited"), [this] { editFirstTimelineMarker(90); } },
         { QStringLiteral("virtual-playhead"), [this] {
              trigger(QStringLiteral("virtual-open"));
              seek(2000);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QEvent>
 #include <QList>
+#include <QPoint>
 #include <QString>
 
 #include <functional>
@@ -30,6 +32,11 @@ private:
     void select(const QString& name);
     void seek(qint64 frame);
     void seekInto(const QString& name, double fraction);
+    void mouse(QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons);
+    QPoint splitButtonCenter() const;
+    void dragSplitButton(int dx, int dy);
+    void clickSplitButton();
+    void editFirstTimelineMarker(int index);
     bool screenshot(int index, const QString& name);
 
     MvDemoWindow* m_window;

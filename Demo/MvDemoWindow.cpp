@@ -13,6 +13,12 @@
 #include "MvDemoTrackArea.h"
 #include "MvDemoTrackHeaders.h"
 #include "MvDemoRenderSimulator.h"
+#include "MvDemoMarkers.h"
+#include "MvDemoPlayheadTheme.h"
+#include "IMvMarker.h"
+#include "IMvShortcutEditManager.h"
+#include "MvEventFilterManager.h"
+#include "MvTimelinePlayheadWidget.h"
 #include "MvTimelineRenderWidget.h"
 #include "MvTimelineRulerPresenter.h"
 #include "MvTimelineRulerWidget.h"
@@ -44,6 +50,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, QWidget* parent)
 
     buildLayout();
     buildMenus();
+    m_timeline->addChangeListener([this] { modelChanged(); });
     setTrackSize(1);
     refreshActions();
     resize(1280, 720);
@@ -52,7 +59,12 @@ MvDemoWindow::MvDemoWindow(bool interactive, QWidget* parent)
 MvDemoWindow::~MvDemoWindow()
 {
     // Widgets and presenters observe the model; they go before the model does.
+    m_ruler->eventFilterMgr()->removeFilter(m_playhead);
+    m_trackArea->eventFilterMgr()->removeFilter(m_playhead);
     delete centralWidget();
+    delete m_markerPresenter;
+    delete m_playheadPresenter;
+    delete m_renderSimulator;
     delete m_rulerPresenter;
     delete m_presenter;
 }
@@ -64,6 +76,8 @@ void MvDemoWindow::buildLayout()
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     auto* right = new QWidget(central);
+    m_timelineColumn = right;
+    right->installEventFilter(this);
     auto* column = new QVBoxLayout(right);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -75,10 +89,26 @@ void MvDemoWindow::buildLayout()
     m_renderStrip->setFinishedColor(QColor(0x3C, 0xB3, 0x71));
     m_renderStrip->setUnFinishedColor(QColor(0xD9, 0x53, 0x4F));
     m_trackArea = new MvDemoTrackArea(m_timeline.data(), right);
+    m_markerPresenter = new MvDemoMarkerPresenter(m_presenter, this);
+    m_markerStrip = new MvDemoMarkerStrip(m_markerPresenter, right);
+    column->addWidget(m_markerStrip);
     column->addWidget(m_ruler);
     column->addWidget(m_renderStrip);
     column->addWidget(m_trackArea, 1);
     m_renderSimulator = new MvDemoRenderSimulator(m_timeline.data(), this);
+    buildPlayhead(right);
+    connect(m_rulerPresenter, &MvTimelineRulerPresenter::visualRangeChanged, m_markerPresenter,
+        &MvMarkerPresenter::signalMarkerCountChanged);
+    connect(m_rulerPresenter, &MvTimelineRulerPresenter::zoomChanged, m_markerPresenter,
+        &MvMarkerPresenter::signalMarkerCountChanged);
+    connect(m_markerStrip, &MvDemoMarkerStrip::markerPicked, this, [this](IMvMarker* marker) {
+        m_timeline->markerModel()->setSelectedMarker(marker);
+        m_timeline->selection()->setTimelineSelected(true);
+        m_timeline->playhead()->setCurrentFrame(marker->ownerList()->mapToTimeline(marker->frame()));
+        refreshActions();
+    });
+    connect(m_markerStrip, &MvDemoMarkerStrip::editRequested, this,
+        [this] { m_actions.value(QStringLiteral("edit-marker"))->trigger(); });
     m_headers = new MvDemoTrackHeaders(m_timeline.data(), m_trackArea, central);
     rows->addWidget(m_headers);
     rows->addWidget(right, 1);
@@ -96,6 +126,36 @@ void MvDemoWindow::buildLayout()
     statusBar()->addWidget(m_status, 1);
 }
 
+void MvDemoWindow::buildPlayhead(QWidget* column)
+{
+    m_playheadPresenter = new MvDemoPlayheadPresenter(m_presenter, this);
+    m_playhead = new MvTimelinePlayheadWidget(m_playheadPresenter, column);
+    // The overlay sees the ruler's and the track area's mouse events before they do.
+    m_ruler->eventFilterMgr()->addFilter(m_playhead);
+    m_trackArea->eventFilterMgr()->addFilter(m_playhead);
+    connect(m_playheadPresenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, m_player, &MvDemoPlayer::pause);
+    if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
+        shortcuts->setShortcutText(2001, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
+}
+
+bool MvDemoWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    // The playhead overlay spans the ruler and the tracks, with its x = 0 on the ruler's.
+    if (watched == m_timelineColumn && event->type() == QEvent::Resize && m_playhead) {
+        m_playhead->setGeometry(0, m_ruler->y(), m_timelineColumn->width(), m_timelineColumn->height() - m_ruler->y());
+        m_playhead->raise();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MvDemoWindow::modelChanged()
+{
+    m_trackArea->update();
+    m_headers->update();
+    Q_EMIT m_markerPresenter->signalMarkerCountChanged();
+    refreshActions();
+}
+
 QAction* MvDemoWindow::addCommand(
     QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, std::function<void()> command)
 {
@@ -103,10 +163,7 @@ QAction* MvDemoWindow::addCommand(
     action->setShortcut(shortcut);
     connect(action, &QAction::triggered, this, [this, name, command] {
         appendJournal(QStringLiteral("command: %1").arg(name));
-        const int stepsBefore = m_timeline->undoRedoService()->undoCount();
         command();
-        if (m_timeline->undoRedoService()->undoCount() != stepsBefore)
-            m_renderSimulator->invalidate();
         m_trackArea->update();
         m_headers->update();
         refreshActions();

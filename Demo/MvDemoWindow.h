@@ -16,6 +16,10 @@ class MvDemoScene;
 class MvDemoTrackArea;
 class MvDemoTrackHeaders;
 class MvDemoRenderSimulator;
+class MvDemoMarkerPresenter;
+class MvDemoMarkerStrip;
+class MvDemoPlayheadPresenter;
+class MvTimelinePlayheadWidget;
 class MvTimelineRenderWidget;
 class MvTimelineRulerPresenter;
 class MvTimelineRulerWidget;
@@ -34,12 +38,18 @@ public:
     MvDemoTrackArea* trackArea() const { return m_trackArea; }
     MvTimelineRulerWidget* ruler() const { return m_ruler; }
     MvDemoRenderSimulator* renderSimulator() const { return m_renderSimulator; }
+    MvTimelinePlayheadWidget* playheadWidget() const { return m_playhead; }
     QAction* action(const QString& name) const { return m_actions.value(name); }
     void appendJournal(const QString& line);
     QStringList journalLines() const { return m_journal; }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void buildLayout();
+    void buildPlayhead(QWidget* column);
+    void modelChanged();
     void buildMenus();
     void buildClipMenu();
     void buildMarkerAndKeyFrameMenus();
@@ -59,6 +69,11 @@ private:
     MvTimelineRulerWidget* m_ruler = nullptr;
     MvTimelineRenderWidget* m_renderStrip = nullptr;
     MvDemoRenderSimulator* m_renderSimulator = nullptr;
+    MvDemoMarkerPresenter* m_markerPresenter = nullptr;
+    MvDemoMarkerStrip* m_markerStrip = nullptr;
+    MvDemoPlayheadPresenter* m_playheadPresenter = nullptr;
+    MvTimelinePlayheadWidget* m_playhead = nullptr;
+    QWidget* m_timelineColumn = nullptr;
     MvDemoTrackHeaders* m_headers = nullptr;
     QPlainTextEdit* m_journalView = nullptr;
     QLabel* m_status = nullptr;

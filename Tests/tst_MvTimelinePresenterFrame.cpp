@@ -40,7 +40,6 @@ class tst_MvTimelinePresenterFrame : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaultConfigurationHasTwoFixedTracks();
     void clearFixedTrackKeepsTheOtherFields();
     void configurationCopiesEveryField();
     void modeChangeSignalsOnlyOnDifference();
@@ -90,29 +89,17 @@ struct Fixture
 };
 }
 
-void tst_MvTimelinePresenterFrame::defaultConfigurationHasTwoFixedTracks()
+void tst_MvTimelinePresenterFrame::clearFixedTrackKeepsTheOtherFields()
 {
     MvTimelinePresenter presenter(nullptr, nullptr);
-    const auto* config = presenter.config();
+    auto* config = presenter.config();
     QCOMPARE(config->fixedTrackCount(), 2);
+    config->clearFixedTrack();
+    QCOMPARE(config->fixedTrackCount(), 0);
     QCOMPARE(int(config->sizeParam), 55);
     QCOMPARE(config->widthParam, 128);
     QVERIFY(config->flagFirst);
     QVERIFY(!config->flagSecond);
-}
-
-void tst_MvTimelinePresenterFrame::clearFixedTrackKeepsTheOtherFields()
-{
-    MvTimelinePresenter::MvTimelineViewConfig config;
-    config.sizeParam = 9;
-    config.widthParam = -4;
-    config.flagSecond = true;
-    config.clearFixedTrack();
-    QCOMPARE(config.fixedTrackCount(), 0);
-    QCOMPARE(int(config.sizeParam), 9);
-    QCOMPARE(config.widthParam, -4);
-    QVERIFY(config.flagFirst);
-    QVERIFY(config.flagSecond);
 }
 
 void tst_MvTimelinePresenterFrame::configurationCopiesEveryField()

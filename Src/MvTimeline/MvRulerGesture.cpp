@@ -79,7 +79,7 @@ void MvRulerGesture::press(QMouseEvent* event)
     }
     // A press away from the handle may become a drag-to-zoom.
     m_lastPos = event->pos();
-    m_pressTime = m_clock();
+    m_pressTimer = m_clock();
     m_target->beginZoom();
 }
 
@@ -94,7 +94,7 @@ void MvRulerGesture::move(QMouseEvent* event)
         } else {
             // A short dead time keeps a click from zooming; then a deliberate move is needed
             // before every move zooms.
-            const qint64 elapsed = m_pressTime < 0 ? 0 : m_clock() - m_pressTime;
+            const qint64 elapsed = m_pressTimer < 0 ? 0 : m_clock() - m_pressTimer;
             const int dx = m_lastPos.x() - pos.x();
             const bool step
                 = elapsed > kZoomThresholdTime || (elapsed > kZoomDeadTime && std::abs(dx) >= kZoomThresholdPixels);
@@ -112,7 +112,7 @@ void MvRulerGesture::move(QMouseEvent* event)
 void MvRulerGesture::release(QMouseEvent* event)
 {
     m_target->endZoom();
-    m_pressTime = -1;
+    m_pressTimer = -1;
     m_pressed = false;
     m_handleMoved = false;
     if (m_edgeScrollTimer.isActive())

@@ -88,7 +88,7 @@ private:
     bool m_draggingHandle = false;
     bool m_handleMoved = false;
     QPoint m_lastPos;
-    qint64 m_pressTime = -1; // -1 while no zoom press is timed
+    qint64 m_pressTimer = -1; // -1 while no zoom press is timed
     QTimer m_edgeScrollTimer;
     QPoint m_handlePos;
     Clock m_clock;

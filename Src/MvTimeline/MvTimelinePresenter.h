@@ -54,6 +54,10 @@ public:
     MvTimelinePresenter(QObject* parent, IMvTimeline* timeline);
     ~MvTimelinePresenter() override;
 
+    // The virtual table is part of the binary interface hosts derive from: after QObject's
+    // (metaObject, qt_metacast, qt_metacall, the destructor, event, eventFilter, timerEvent,
+    // childEvent, customEvent, connectNotify, disconnectNotify) and MvPresenter's (init, reset, view,
+    // clearView, dispatchMessage), none overridden, come these, in this order. Append, never insert.
     virtual bool hasEmptyCap();
     virtual bool canSplitClip();
     virtual bool canTrimToPlayhead();
@@ -88,6 +92,7 @@ public:
     bool isMediaPlayerPlaying();
     void seek(qint64 frame);
 
+    void editMarker();
     void hidePropertyPanel();
     void checkHidePropertyPanel();
 

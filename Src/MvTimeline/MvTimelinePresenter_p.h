@@ -19,6 +19,7 @@ public:
 
     bool hasEmptyCap() const;
     int calcDetachAudioTrackIndex(IMvClip* clip) const;
+    void editMarker();
 
     // Clip editing (MvTimelinePresenterClipEdit.cpp).
     bool splitClips(qint64 frame, bool select, bool prepareFlag);

@@ -129,6 +129,14 @@ bool rendersAlike(MvMemoryClip::State a, MvMemoryClip::State b)
 void MvMemoryTimelinePrivate::modelChanged(const MvMemoryModelState& from, const MvMemoryModelState& to)
 {
     playhead->timelineEdited();
+    markChangedFramesUnrendered(from, to);
+    const QList<std::function<void()>> listeners = changeListeners;
+    for (const std::function<void()>& listener : listeners)
+        listener();
+}
+
+void MvMemoryTimelinePrivate::markChangedFramesUnrendered(const MvMemoryModelState& from, const MvMemoryModelState& to)
+{
     auto* render = dynamic_cast<MvMemoryRenderService*>(renderService);
     if (!render)
         return;
@@ -488,6 +496,12 @@ MvFrameRate MvMemoryTimeline::frameRate() const
 {
     Q_D(const MvMemoryTimeline);
     return d->frameRate;
+}
+
+void MvMemoryTimeline::addChangeListener(std::function<void()> listener)
+{
+    Q_D(MvMemoryTimeline);
+    d->changeListeners.append(std::move(listener));
 }
 
 void MvMemoryTimeline::setJournal(MvCallJournal* journal)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "IMvTimeline.h"
 #include "MvMemoryModelState.h"
 
@@ -96,6 +98,8 @@ public:
     void setSeekAfterDelete(bool seek);
     void setVirtualPlayheadAllowed(bool allowed);
     void setJournal(MvCallJournal* journal);
+    // Told after every undo step is recorded, undone or redone: a host view repaints from it.
+    void addChangeListener(std::function<void()> listener);
     MvCallJournal* journal() const;
     int beginDeleteCount() const;
 

@@ -22,6 +22,7 @@ public:
     // After a step was recorded, undone or redone: the stretch whose picture or sound changed
     // needs rendering again.
     void modelChanged(const MvMemoryModelState& from, const MvMemoryModelState& to);
+    void markChangedFramesUnrendered(const MvMemoryModelState& from, const MvMemoryModelState& to);
     void record(const char* operation) const;
     // A building call: joins an open step; outside a step it is applied directly and the history,
     // which no longer describes the model, is cleared.
@@ -66,6 +67,7 @@ public:
     IMvTimelineRuler* ruler = nullptr;
     IMvTimelineRenderService* renderService = nullptr;
     MvCallJournal* journal = nullptr;
+    QList<std::function<void()>> changeListeners;
 
     qint64 knownDuration = 0;
     int beginDeleteCount = 0;

@@ -57,9 +57,9 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
     timeline.addTransition(street, IMvTransition::AtStart, kSecond, QStringLiteral("Cross dissolve"));
     timeline.editServiceImpl()->group({ opening, openingSound }, 1);
 
-    timeline.timelineMarkers()->addMarker(10 * kSecond, QColor(QStringLiteral("#e5484d")));
-    timeline.timelineMarkers()->addMarker(60 * kSecond, QColor(QStringLiteral("#30a46c")));
-    street->clipMarkers()->addMarker(5 * kSecond, QColor(QStringLiteral("#0091ff")));
+    timeline.timelineMarkers()->addMarker(10 * kSecond, QColor(QStringLiteral("#f04a4a")));
+    timeline.timelineMarkers()->addMarker(60 * kSecond, QColor(QStringLiteral("#3cc86a")));
+    street->clipMarkers()->addMarker(5 * kSecond, QColor(QStringLiteral("#3b7ff2")));
 
     opening->addKeyFrame(false, 0, transformKeys());
     opening->addKeyFrame(false, 4 * kSecond, transformKeys());

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "IMvEventFilter.h"
+#include "MvTimelineGlobal.h"
+#include "MvWidget.h"
+#include "MvWidgetsGlobal.h"
+
+#include <QPoint>
+
+class MvTimelinePlayheadPresenter;
+class QContextMenuEvent;
+class QHelpEvent;
+class QMouseEvent;
+
+// The playhead overlay: paints the head, the line and the split button, and turns the events of
+// the widget underneath (handed over by the host's MvEventFilterManager) into playhead drags,
+// split-button drags and split clicks. It never takes mouse events from Qt itself.
+//
+// A right press and release on an item switches to follow mode: from then on plain moves (no
+// button held) keep moving the playhead, as long as the media player is not playing, until the
+// next press.
+class MVTIMELINE_EXPORT MvTimelinePlayheadWidget : public MvWidget, public IMvEventFilter
+{
+    Q_OBJECT
+
+public:
+    enum FItemType
+    {
+        None = 0,
+        Playhead = 1,
+        SplitButton = 2
+    };
+
+    MvTimelinePlayheadWidget(MvTimelinePlayheadPresenter* presenter, QWidget* parent);
+    ~MvTimelinePlayheadWidget() override;
+
+    bool onFilterEvent(QEvent* event) override;
+
+    // What lies under pos (widget coordinates): the head wins over the button; the line is no target.
+    FItemType captureItem(const QPoint& pos);
+    FItemType capturedItem() const;
+    MVWIDGETS::MvWidgetStyleStatus itemStatus() const;
+    bool isFollowing() const;
+    MvTimelinePlayheadPresenter* presenter() const;
+
+public Q_SLOTS:
+    void slotUpdateUI();
+
+protected:
+    virtual void drawPlayhead(QPainter* painter);
+    virtual void drawSplitButton(QPainter* painter);
+
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void enterEvent(QEvent* event) override;
+
+    bool dispatchMousePressEvent(QMouseEvent* event);
+    bool dispatchMouseMoveEvent(QMouseEvent* event);
+    bool dispatchMouseReleaseEvent(QMouseEvent* event);
+    bool dispatchContextMenuEvent(QContextMenuEvent* event);
+    bool toolTipEvent(const QHelpEvent* event);
+
+    QPoint transformMousePos(QMouseEvent* event) const;
+    void adjustPlayheadPosition();
+    void updateItemStatus(FItemType item, MVWIDGETS::MvWidgetStyleStatus status);
+    // False while the media player plays in follow mode (query 7033), so that playback wins.
+    bool canUpdatePosInAutoFollowMode();
+
+private:
+    void applySplitButtonStatus(MVWIDGETS::MvWidgetStyleStatus status);
+    bool dragTo(const QPoint& pos);
+
+    Q_DISABLE_COPY(MvTimelinePlayheadWidget)
+    MvTimelinePlayheadPresenter* m_presenter;
+    bool m_rightReleased = false;
+    FItemType m_captureItem = None;
+    MVWIDGETS::MvWidgetStyleStatus m_itemStatus = MVWIDGETS::Normal;
+    QPoint m_lastPos;
+    bool m_playheadDragStarted = false;
+};
