@@ -3,7 +3,6 @@
 #include "IMvSelection.h"
 #include "IMvUndoRedoService.h"
 #include "Memory/MvCallJournal.h"
-#include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryPlayhead.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvBaseLog.h"
@@ -11,6 +10,18 @@
 #include "MvTimelinePresenter.h"
 
 #include <memory>
+
+// The first line where two model dumps differ, empty when they are the same.
+inline QString mvStateDiff(const QString& actual, const QString& expected)
+{
+    const QStringList a = actual.split(QLatin1Char('\n'));
+    const QStringList e = expected.split(QLatin1Char('\n'));
+    for (int i = 0; i < qMax(a.size(), e.size()); ++i) {
+        if (a.value(i) != e.value(i))
+            return QStringLiteral("line %1: \"%2\" instead of \"%3\"").arg(i).arg(a.value(i), e.value(i));
+    }
+    return QString();
+}
 
 // A presenter over a project with picture rows 0, 1 and audio rows 2, 3; model edits and scene
 // messages meet in one journal.
@@ -40,8 +51,7 @@ template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelineP
     // The journal as one line: "scene:7012 model:moveClips".
     QString journalText() const { return journal.entries().join(QLatin1Char(' ')); }
 
-    // What a refused command must leave alone: the undo count and the model dump, which holds the
-    // playhead and the selections.
+    // What a refused command must leave alone: the undo count and the model dump, view state included.
     QString snapshot() const { return QStringLiteral("undo steps %1\n").arg(undoCount()) + timeline.stateText(); }
 
     // Empty when nothing changed since `before`; else the name of the one undo step made since, when the
@@ -53,9 +63,8 @@ template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelineP
         const QString name = timeline.undoRedoService()->undoName();
         const QString problems = timeline.checkInvariants();
         timeline.undoRedoService()->undo();
-        if (problems.isEmpty() && withoutView(snapshot()) == withoutView(before))
-            return name;
-        return problems + snapshot();
+        const QString wrong = problems + mvStateDiff(withoutView(snapshot()), withoutView(before));
+        return wrong.isEmpty() ? name : wrong;
     }
 
     static QString withoutView(const QString& snapshot)
