@@ -1,3 +1,4 @@
+#include "MvColorProbe.h"
 #include "MvMarkerPresenter.h"
 #include "MvMarkerWidget.h"
 
@@ -39,22 +40,6 @@ public:
     using MvMarkerWidget::m_pressVisible;
     using MvMarkerWidget::MvMarkerWidget;
     int paints = 0;
-
-    // The colour painted at each point as one letter, '-' where nothing is drawn.
-    QString lettersAt(const QList<QPoint>& points)
-    {
-        QImage image(size(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-        const QHash<QRgb, QChar> letters { { QColor(Qt::red).rgba(), QLatin1Char('R') },
-            { QColor(Qt::green).rgba(), QLatin1Char('G') }, { QColor(Qt::blue).rgba(), QLatin1Char('B') },
-            { QColor(Qt::yellow).rgba(), QLatin1Char('Y') }, { QColor(Qt::cyan).rgba(), QLatin1Char('C') },
-            { QColor(Qt::magenta).rgba(), QLatin1Char('M') } };
-        QString text;
-        for (const QPoint& point : points)
-            text += letters.value(image.pixel(point), QLatin1Char('-'));
-        return text;
-    }
 
 protected:
     void paintEvent(QPaintEvent* event) override
@@ -122,7 +107,7 @@ void tst_MvMarkerWidget::paintsByHoverPressAndFloating()
     widget.m_pressIndex = qMax(press, 0);
     widget.m_pressVisible = press >= 0;
     widget.m_floatingX = 80;
-    QCOMPARE(widget.lettersAt({ { 10, 5 }, { 40, 5 }, { 80, 5 } }), letters);
+    QCOMPARE(mvColorsAt(&widget, { { 10, 5 }, { 40, 5 }, { 80, 5 } }), letters);
 }
 
 // Markers at 20 (yellow) and 24 (red) cover x 15..25 and 19..29, y -1..12; the later one wins.
@@ -133,7 +118,7 @@ void tst_MvMarkerWidget::markerRectangleAndOverlap()
     HostMarkerWidget widget(&presenter, nullptr);
     widget.resize(60, 20);
     const QList<QPoint> points { { 14, 5 }, { 15, 0 }, { 18, 5 }, { 19, 5 }, { 29, 12 }, { 30, 5 }, { 20, 13 } };
-    QCOMPARE(widget.lettersAt(points), QStringLiteral("-YYRR--"));
+    QCOMPARE(mvColorsAt(&widget, points), QStringLiteral("-YYRR--"));
 }
 
 void tst_MvMarkerWidget::listFollowsThePresenter()
@@ -149,8 +134,6 @@ void tst_MvMarkerWidget::listFollowsThePresenter()
     presenter.markers.clear();
     Q_EMIT presenter.signalMarkerCountChanged();
     QCOMPARE(widget.markers().size(), 2);
-    QCOMPARE(MvMarkerPresenter::markerPaletteIndex(MvMarkerPresenter::markerPalette().at(7)), 7);
-    QCOMPARE(MvMarkerPresenter::markerPaletteIndex(QColor(1, 2, 3)), -1);
 }
 
 void tst_MvMarkerWidget::clearWithoutPressedMarkerDoesNotRepaint()

@@ -1,21 +1,11 @@
-#include "IMvMarker.h"
-#include "IMvSelection.h"
 #include "IMvTimelinePlayhead.h"
-#include "IMvTimelineRuler.h"
-#include "IMvUndoRedoService.h"
-#include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryMarker.h"
-#include "Memory/MvMemoryTimeline.h"
-#include "Memory/MvMemoryUndoService.h"
-#include "MvBaseLog.h"
-#include "MvLabel.h"
+#include "MvEditFixture.h"
 #include "MvMarkerEditColor.h"
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerEditPanel.h"
 #include "MvMarkerPresenter.h"
-#include "MvRecordingScene.h"
 #include "MvTextEdit.h"
-#include "MvTimelinePresenter.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -36,43 +26,29 @@ QColor palette(int index)
     return MvMarkerPresenter::markerPalette().at(index);
 }
 
-// What the dialog showed; nothing when editMarker opened none.
-struct Shown
-{
-    bool opened = false;
-    QString name;
-    QString comment;
-    QString time;
-    int colorIndex = -2;
-    QList<QColor> colors;
-    QWidget* parent = nullptr;
-};
-
 void click(QWidget* widget)
 {
     QTest::mouseClick(widget, Qt::LeftButton);
 }
 
-// A clip "c" over frames 100..200 between two others; the timeline runs to frame 999.
-struct Project
-{
-    MvMemoryTimeline timeline;
-    MvRecordingScene scene;
-    MvTimelinePresenter presenter { nullptr, &timeline };
-    MvMemoryClip* clip = nullptr;
+const Action clickOk = [](MvMarkerEditDialog* dialog) { click(dialog->okButton()); };
 
-    Project()
-    {
-        timeline.addTrack(TrackType_Picture);
-        timeline.addClip(0, ClipType_Video, 0, 99, QStringLiteral("a"));
-        clip = timeline.addClip(0, ClipType_Video, 100, 200, QStringLiteral("c"));
-        timeline.addClip(0, ClipType_Video, 201, 999, QStringLiteral("b"));
-        presenter.setScene(&scene);
-    }
-    MvMemoryMarker* timelineMarker(qint64 frame, const QString& name, const QColor& color = palette(2))
-    {
-        return timeline.timelineMarkerList()->addNamedMarker(frame, color, name);
-    }
+// What the dialog offered when it opened; opened stays false when editMarker opened none.
+struct Shown
+{
+    bool opened = false;
+    MvMarkerParam param;
+    QList<QColor> colors;
+    QWidget* parent = nullptr;
+};
+
+// A clip over frames 100..200 between two others, on the first of the fixture's tracks.
+struct Project : MvEditFixture<>
+{
+    MvMemoryClip* first = clip(0, 0, 99);
+    MvMemoryClip* middle = clip(0, 100, 200);
+    MvMemoryClip* last = clip(0, 201, 999);
+
     // Runs editMarker; the action works the modal dialog once it is up.
     Shown edit(const Action& action)
     {
@@ -81,19 +57,14 @@ struct Project
             auto* dialog = qobject_cast<MvMarkerEditDialog*>(QApplication::activeModalWidget());
             if (!dialog)
                 return;
-            MvMarkerEditPanel* panel = dialog->panel();
-            shown = { true, panel->nameEdit()->toPlainText(), panel->commentEdit()->toPlainText(),
-                panel->timeValueLabel()->text(), panel->colorRow()->selectedIndex(), panel->colorRow()->colors(),
-                dialog->parentWidget() };
+            shown = { true, dialog->markerParam(), dialog->panel()->colorRow()->colors(), dialog->parentWidget() };
             action(dialog);
         });
-        presenter.editMarker();
+        presenter->editMarker();
         QCoreApplication::processEvents(); // lets the timer find no dialog when none opened
         return shown;
     }
 };
-
-const Action clickOk = [](MvMarkerEditDialog* dialog) { click(dialog->okButton()); };
 }
 
 class tst_MvTimelinePresenterMarkerEdit : public QObject
@@ -101,45 +72,12 @@ class tst_MvTimelinePresenterMarkerEdit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void dialogShowsTheMarkerUnderThePlayhead_data();
-    void dialogShowsTheMarkerUnderThePlayhead();
     void outcomeIsOneUndoStepOrNone_data();
     void outcomeIsOneUndoStepOrNone();
     void listIsChosenLikeAddMarker_data();
     void listIsChosenLikeAddMarker();
-    void withoutAMarkerNothingOpens();
+    void withoutATimelineNothingOpens();
 };
-
-void tst_MvTimelinePresenterMarkerEdit::dialogShowsTheMarkerUnderThePlayhead_data()
-{
-    QTest::addColumn<int>("numerator");
-    QTest::addColumn<int>("denominator");
-    QTest::addColumn<qint64>("frame");
-    QTest::addColumn<QString>("time");
-    QTest::newRow("30 fps") << 30 << 1 << qint64(300) << QStringLiteral("00:00:10:00");
-    QTest::newRow("29.97 counts as 30") << 30000 << 1001 << qint64(1799) << QStringLiteral("00:00:59:29");
-    QTest::newRow("24 fps, past an hour") << 24 << 1 << qint64(86400 + 24 * 61 + 5) << QStringLiteral("01:01:01:05");
-}
-
-void tst_MvTimelinePresenterMarkerEdit::dialogShowsTheMarkerUnderThePlayhead()
-{
-    QFETCH(int, numerator);
-    QFETCH(int, denominator);
-    QFETCH(qint64, frame);
-    QFETCH(QString, time);
-    Project p;
-    p.timeline.addClip(0, ClipType_Video, 1000, 99999, QStringLiteral("long"));
-    p.timeline.ruler()->setFrameRate(numerator, denominator);
-    p.timelineMarker(frame, QStringLiteral("Verse"))->setComment(QStringLiteral("slow"));
-    p.timeline.playhead()->setCurrentFrame(frame);
-    const Shown shown = p.edit(clickOk);
-    QCOMPARE(shown.name, QStringLiteral("Verse"));
-    QCOMPARE(shown.comment, QStringLiteral("slow"));
-    QCOMPARE(shown.colorIndex, 2);
-    QCOMPARE(shown.colors, MvMarkerPresenter::markerPalette());
-    QCOMPARE(shown.time, time);
-    QCOMPARE(p.scene.ids(), QList<int>({ 7012 })); // the player is paused first
-}
 
 void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone_data()
 {
@@ -163,7 +101,6 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone_data()
                                        << QString() << 1;
     QTest::newRow("closing drops the edits") << palette(2) << Action([](MvMarkerEditDialog* dialog) {
         QTest::keyClicks(dialog->panel()->nameEdit(), QStringLiteral(" edited"));
-        click(dialog->panel()->colorRow()->findChild<QWidget*>(QStringLiteral("colorCell5")));
         click(dialog->closeButton());
     }) << kept << 0;
     QTest::newRow("OK without changes") << palette(2) << clickOk << kept << 0;
@@ -171,6 +108,7 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone_data()
         << QColor(1, 2, 3) << clickOk << QStringLiteral("Verse slow #010203") << 0;
 }
 
+// The dialog shows the marker under the playhead, after the player was paused.
 void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone()
 {
     QFETCH(QColor, color);
@@ -178,19 +116,27 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone()
     QFETCH(QString, after);
     QFETCH(int, steps);
     Project p;
-    p.timelineMarker(300, QStringLiteral("Verse"), color)->setComment(QStringLiteral("slow"));
-    p.timelineMarker(310, QStringLiteral("Other"));
+    p.timeline.timelineMarkerList()
+        ->addNamedMarker(300, color, QStringLiteral("Verse"))
+        ->setComment(QStringLiteral("slow"));
+    p.timeline.timelineMarkerList()->addNamedMarker(310, palette(0), QStringLiteral("Other"));
     p.timeline.playhead()->setCurrentFrame(300);
     IMvUndoRedoService* undo = p.timeline.undoRedoService();
     const QString before = p.timeline.stateText();
     const int undoCount = undo->undoCount();
-    QCOMPARE(p.edit(action).colorIndex, MvMarkerPresenter::markerPaletteIndex(color));
+    const Shown shown = p.edit(action);
+    const MvMarkerParam& param = shown.param;
+    QCOMPARE(QStringLiteral("%1 %2 %3").arg(param.name, param.comment, param.time),
+        QStringLiteral("Verse slow 00:00:10:00"));
+    QCOMPARE(param.colorIndex, MvMarkerPresenter::markerPaletteIndex(color));
+    QCOMPARE(shown.colors, MvMarkerPresenter::markerPalette());
+    QCOMPARE(p.scene.ids(), QList<int>({ 7012 }));
     IMvMarker* marker = p.timeline.timelineMarkers()->markerAt(300);
     QCOMPARE(
         marker ? QStringLiteral("%1 %2 %3").arg(marker->name(), marker->comment(), marker->color().name()) : QString(),
         after);
     QCOMPARE(undo->undoCount(), undoCount + steps);
-    QVERIFY(!p.timeline.undoRedoService()->isStepOpen());
+    QVERIFY(!undo->isStepOpen());
     QCOMPARE(p.timeline.checkInvariants(), QString());
     if (steps == 1) {
         QCOMPARE(undo->undoName(), QStringLiteral("edit marker"));
@@ -215,7 +161,7 @@ void tst_MvTimelinePresenterMarkerEdit::listIsChosenLikeAddMarker_data()
     QTest::newRow("clip selected, timeline flag")
         << QStringLiteral("clip+timeline") << qint64(150) << QStringLiteral("T 00:00:05:00");
     QTest::newRow("two clips selected") << QStringLiteral("two") << qint64(150) << QStringLiteral("T 00:00:05:00");
-    QTest::newRow("transition selected") << QStringLiteral("transition") << qint64(150) << QString();
+    QTest::newRow("transition selected, no list") << QStringLiteral("transition") << qint64(150) << QString();
 }
 
 // A timeline marker "T" and, on the clip, a clip marker "C" stand under the playhead. The time
@@ -228,39 +174,32 @@ void tst_MvTimelinePresenterMarkerEdit::listIsChosenLikeAddMarker()
     QMainWindow window;
     window.show();
     Project p;
-    p.timelineMarker(playhead, QStringLiteral("T"));
-    auto* clipMarkers = static_cast<MvMemoryMarkerList*>(p.clip->clipMarkers());
+    p.timeline.timelineMarkerList()->addNamedMarker(playhead, palette(0), QStringLiteral("T"));
+    auto* clipMarkers = static_cast<MvMemoryMarkerList*>(p.middle->clipMarkers());
     if (playhead <= 200)
         clipMarkers->addNamedMarker(playhead - 100, palette(1), QStringLiteral("C"));
     IMvSelection* select = p.timeline.selection();
     if (selection.startsWith(QLatin1String("clip")))
-        select->select({ p.clip });
+        select->select({ p.middle });
     select->setTimelineSelected(selection == QLatin1String("clip+timeline"));
     if (selection == QLatin1String("two"))
-        select->select({ p.clip, p.timeline.liveClips().first() });
+        select->select({ p.middle, p.first });
     if (selection == QLatin1String("transition"))
-        select->selectItems({ p.timeline.addTransition(p.clip, IMvTransition::AtEnd, 10, QStringLiteral("fade")) });
+        select->selectItems({ p.timeline.addTransition(p.middle, IMvTransition::AtEnd, 10, QStringLiteral("fade")) });
     p.timeline.playhead()->setCurrentFrame(playhead);
     const Shown shown = p.edit(clickOk);
-    QCOMPARE(shown.opened ? shown.name + QLatin1Char(' ') + shown.time : QString(), edited);
+    QCOMPARE(shown.opened ? shown.param.name + QLatin1Char(' ') + shown.param.time : QString(), edited);
     QCOMPARE(shown.parent, shown.opened ? &window : nullptr);
+    QCOMPARE(p.scene.ids().isEmpty(), !shown.opened); // no pause either
+    QCOMPARE(p.log.find(QStringLiteral("no marker at playhead")).size(), shown.opened ? 0 : 1);
 }
 
-void tst_MvTimelinePresenterMarkerEdit::withoutAMarkerNothingOpens()
+void tst_MvTimelinePresenterMarkerEdit::withoutATimelineNothingOpens()
 {
-    Project p;
-    p.timelineMarker(300, QStringLiteral("Verse"));
-    p.timeline.playhead()->setCurrentFrame(301);
     MvLogCapture log;
-    QVERIFY(!p.edit(clickOk).opened);
-    const QList<MvLogRecord> records = log.find(QStringLiteral("no marker at playhead"));
-    QCOMPARE(records.size(), 1);
-    QCOMPARE(records.first().level, 16);
-    QCOMPARE(records.first().function, QStringLiteral("MvTimelinePresenterPrivate::editMarker"));
-    QVERIFY(p.scene.ids().isEmpty());
-    MvTimelinePresenter noTimeline(nullptr, nullptr);
-    noTimeline.editMarker();
-    QCOMPARE(log.find(QStringLiteral("playhead is null")).size(), 1);
+    MvTimelinePresenter(nullptr, nullptr).editMarker();
+    const QString function = QStringLiteral("MvTimelinePresenterPrivate::editMarker");
+    QCOMPARE(mvCheckRecord(log, QStringLiteral("playhead is null"), 16, function), QString());
 }
 
 QTEST_MAIN(tst_MvTimelinePresenterMarkerEdit)
