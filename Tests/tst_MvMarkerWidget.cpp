@@ -13,7 +13,8 @@ QImage solid(const QColor& color)
 }
 
 // A host presenter with a scripted marker list and two colours: 0 draws red, green and blue for
-// normal, hover and pressed; 1 draws yellow, cyan and magenta.
+// normal, hover and pressed; 1 draws yellow, cyan and magenta. Images are looked up by the first
+// entry of a colour, and the first entry stands in for an unknown colour.
 class ListPresenter : public MvMarkerPresenter
 {
 public:
@@ -23,6 +24,7 @@ public:
     {
         addMarkerImage(0, solid(Qt::red), solid(Qt::green), solid(Qt::blue));
         addMarkerImage(1, solid(Qt::yellow), solid(Qt::cyan), solid(Qt::magenta));
+        addMarkerImage(1, solid(Qt::black), solid(Qt::black), solid(Qt::black));
     }
     QList<MarkerItem> markerList() override { return markers; }
     QList<MarkerItem> markers;
@@ -55,7 +57,6 @@ class tst_MvMarkerWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void lookupFallsBackToTheFirstEntry();
     void paintsByHoverPressAndFloating_data();
     void paintsByHoverPressAndFloating();
     void markerRectangleAndOverlap();
@@ -63,33 +64,20 @@ private Q_SLOTS:
     void clearWithoutPressedMarkerDoesNotRepaint();
 };
 
-void tst_MvMarkerWidget::lookupFallsBackToTheFirstEntry()
-{
-    ListPresenter presenter({});
-    presenter.addMarkerImage(1, solid(Qt::black), solid(Qt::black), solid(Qt::black)); // shadowed by the first 1
-    for (int unknown : { 7, -1 }) {
-        QCOMPARE(presenter.normalMarkerImage(unknown).pixelColor(0, 0), QColor(Qt::red));
-        QCOMPARE(presenter.horverMarkerImage(unknown).pixelColor(0, 0), QColor(Qt::green));
-        QCOMPARE(presenter.pressMarkerImage(unknown).pixelColor(0, 0), QColor(Qt::blue));
-    }
-    QCOMPARE(presenter.horverMarkerImage(1).pixelColor(0, 0), QColor(Qt::cyan));
-    presenter.clearMarkerImages();
-    QVERIFY(presenter.normalMarkerImage(0).isNull());
-}
-
 void tst_MvMarkerWidget::paintsByHoverPressAndFloating_data()
 {
     QTest::addColumn<int>("hover");
     QTest::addColumn<int>("floating"); // 0: no, 1 or 2: which of the two flags
     QTest::addColumn<int>("press"); // -1: marker 0 pressed but its pressed look not shown
-    QTest::addColumn<QString>("letters"); // at the two markers' x 10 and 40, and the floating x 80
-    QTest::newRow("all normal, press not shown") << -1 << 0 << -1 << QStringLiteral("RY-");
-    QTest::newRow("hovered at its own x") << 1 << 0 << -1 << QStringLiteral("RC-");
-    QTest::newRow("hover index out of range") << 2 << 1 << -1 << QStringLiteral("RY-");
-    QTest::newRow("floating hover at the floating x") << 1 << 2 << -1 << QStringLiteral("R-C");
-    QTest::newRow("pressed at the floating x") << -1 << 0 << 0 << QStringLiteral("RYB");
-    QTest::newRow("pressed over the floating hover") << 1 << 1 << 0 << QStringLiteral("R-B");
-    QTest::newRow("press index out of range") << -1 << 0 << 2 << QStringLiteral("RY-");
+    QTest::addColumn<QString>("letters"); // at the markers' x 10, 40 and 70, and the floating x 90
+    QTest::newRow("all normal, press not shown") << -1 << 0 << -1 << QStringLiteral("RYR-");
+    QTest::newRow("hovered at its own x") << 1 << 0 << -1 << QStringLiteral("RCR-");
+    QTest::newRow("hovered, unknown colour") << 2 << 0 << -1 << QStringLiteral("RYG-");
+    QTest::newRow("hover index out of range") << 3 << 1 << -1 << QStringLiteral("RYR-");
+    QTest::newRow("floating hover at the floating x") << 1 << 2 << -1 << QStringLiteral("R-RC");
+    QTest::newRow("pressed at the floating x") << -1 << 0 << 0 << QStringLiteral("RYRB");
+    QTest::newRow("pressed over the floating hover") << 1 << 1 << 2 << QStringLiteral("R-RB");
+    QTest::newRow("press index out of range") << -1 << 0 << 3 << QStringLiteral("RYR-");
 }
 
 void tst_MvMarkerWidget::paintsByHoverPressAndFloating()
@@ -98,7 +86,7 @@ void tst_MvMarkerWidget::paintsByHoverPressAndFloating()
     QFETCH(int, floating);
     QFETCH(int, press);
     QFETCH(QString, letters);
-    ListPresenter presenter({ { 10, 0 }, { 40, 1 } });
+    ListPresenter presenter({ { 10, 0 }, { 40, 1 }, { 70, 7 } });
     HostMarkerWidget widget(&presenter, nullptr);
     widget.resize(100, 20);
     widget.m_hoverIndex = hover;
@@ -106,8 +94,8 @@ void tst_MvMarkerWidget::paintsByHoverPressAndFloating()
     widget.m_floating2 = floating == 2;
     widget.m_pressIndex = qMax(press, 0);
     widget.m_pressVisible = press >= 0;
-    widget.m_floatingX = 80;
-    QCOMPARE(mvColorsAt(&widget, { { 10, 5 }, { 40, 5 }, { 80, 5 } }), letters);
+    widget.m_floatingX = 90;
+    QCOMPARE(mvColorsAt(&widget, { { 10, 5 }, { 40, 5 }, { 70, 5 }, { 90, 5 } }), letters);
 }
 
 // Markers at 20 (yellow) and 24 (red) cover x 15..25 and 19..29, y -1..12; the later one wins.
