@@ -2,43 +2,29 @@
 #include "Memory/MvMemoryPlayhead.h"
 #include "Memory/MvMemoryRuler.h"
 #include "Memory/MvMemoryTimeline.h"
-#include "MvRecordingScene.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePresenter.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
-#include <memory>
+#include <functional>
 
 using namespace MVVBLMODEL;
-using MVWIDGETS::MvWidgetStyleStatus;
+using Status = MVWIDGETS::MvWidgetStyleStatus;
+using Change = std::function<void(IMvTimeline*)>;
 
-Q_DECLARE_METATYPE(MVWIDGETS::MvWidgetStyleStatus)
+Q_DECLARE_METATYPE(Change)
 
 namespace {
-// A timeline presenter that records the splits asked of it.
-class SplitRecordingPresenter : public MvTimelinePresenter
+QImage solid(const QColor& color)
 {
-public:
-    using MvTimelinePresenter::MvTimelinePresenter;
-    struct Call
-    {
-        qint64 frame;
-        bool select;
-        bool prepareFlag;
-    };
-    QList<Call> splits;
+    QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
 
-    bool splitClips(qint64 frame, bool select, bool prepareFlag) override
-    {
-        splits.append({ frame, select, prepareFlag });
-        return true;
-    }
-};
-
-// A host presenter that claims the playhead is enabled whatever the model says, and supplies a
-// head image per status.
+// A host presenter that claims the playhead is enabled whatever the model says, and draws a head
+// whose red channel tells the status it was asked for.
 class EnabledOverridePresenter : public MvTimelinePlayheadPresenter
 {
 public:
@@ -46,37 +32,25 @@ public:
     bool playheadEnabled() override { return true; }
 
 protected:
-    QImage getPlayheadPixmap(MvWidgetStyleStatus status) override
-    {
-        QImage image(12, 12, QImage::Format_ARGB32_Premultiplied);
-        image.fill(QColor(int(status) * 10, 0, 0));
-        return image;
-    }
+    QImage getPlayheadPixmap(Status status) override { return solid(QColor(int(status) * 10, 0, 0)); }
 };
 
-// One 1000-frame clip in a 1000 px view: frame f is at pixel f.
+// One 1000-frame clip at 1 px per frame, the playhead at 100 and a 400 x 200 view.
 struct Project
 {
     MvMemoryTimeline timeline;
-    MvRecordingScene scene;
-    SplitRecordingPresenter timelinePresenter { nullptr, &timeline };
+    MvTimelinePresenter timelinePresenter { nullptr, &timeline };
+    MvTimelinePlayheadPresenter presenter { &timelinePresenter, nullptr };
 
     Project()
     {
         timeline.addTrack(TrackType_Picture);
         timeline.addClip(0, ClipType_Video, 0, 999, QStringLiteral("a"));
         timeline.ruler()->setViewWidth(1000);
-        timelinePresenter.setScene(&scene);
+        timeline.playhead()->setCurrentFrame(100);
+        presenter.updateViewRect(QRect(0, 0, 400, 200));
     }
-    MvMemoryRuler* ruler() const { return dynamic_cast<MvMemoryRuler*>(timeline.ruler()); }
 };
-
-QImage solid(const QColor& color)
-{
-    QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
 }
 
 class tst_MvTimelinePlayheadPresenter : public QObject
@@ -84,306 +58,151 @@ class tst_MvTimelinePlayheadPresenter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void freshPresenterHasTheDefaultGeometry();
+    void geometryAtPosition100();
     void splitButtonYIsClamped_data();
     void splitButtonYIsClamped();
-    void minYIsAppliedOnTheNextWriteOnly();
-    void sizeChangeDoesNotReclamp();
-    void headGeometryFollowsThePosition();
-    void splitButtonRectHalvesTheWidth();
-    void captureRectIsEmptyWhileTheButtonIsHidden();
     void disabledPlayheadResolvesToTheDisabledStatus();
-    void missingStatusGivesNoFallback();
     void colourAsksTheVirtualEnabledStateButImagesAskTheModel();
-    void updatePositionMovesPlayheadAndButton();
-    void playheadKindsRepaint_data();
-    void playheadKindsRepaint();
-    void everyRulerEventRepaints();
+    void modelEventsRepaint_data();
+    void modelEventsRepaint();
     void registersWithPlayheadAndRulerAndLeaves();
-    void splitAsksTheTimelinePresenter();
     void presenterWithoutTimelineRefusesQuietly();
 };
 
-void tst_MvTimelinePlayheadPresenter::init()
+void tst_MvTimelinePlayheadPresenter::geometryAtPosition100()
 {
-    qRegisterMetaType<MvWidgetStyleStatus>();
-}
-
-void tst_MvTimelinePlayheadPresenter::freshPresenterHasTheDefaultGeometry()
-{
-    Project project;
-    QCOMPARE(project.timeline.ruler()->frameToPixel(100), 100);
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    QCOMPARE(presenter.splitButtonY(), 67);
-    QCOMPARE(presenter.splitButtonSize(), QSize(40, 35));
-    presenter.updateViewRect(QRect(0, 0, 400, 200));
-    QCOMPARE(presenter.splitButtonYRange(), MvRange<int>(0, 165));
-    QCOMPARE(presenter.maxRange(), MvRange<int>(0, 400));
-    const MvPlayheadData* data = presenter.playheadData();
-    QCOMPARE(data->lineTop, 12);
-    QCOMPARE(data->lineWidth, 2);
-    QCOMPARE(data->status, MVWIDGETS::Normal);
-    QVERIFY(data->colors.isEmpty());
-    QVERIFY(data->splitButtonImages.isEmpty());
-    QCOMPARE(presenter.timelinePresenter(), &project.timelinePresenter);
+    Project p;
+    QCOMPARE(p.presenter.splitButtonY(), 67);
+    QCOMPARE(p.presenter.splitButtonSize(), QSize(40, 35));
+    QCOMPARE(p.presenter.splitButtonYRange(), MvRange<int>(0, 165));
+    QCOMPARE(p.presenter.maxRange(), MvRange<int>(0, 400));
+    QCOMPARE(p.presenter.playheadRect(), QRect(94, 0, 12, 12));
+    QCOMPARE(p.presenter.currentShape(),
+        QPolygon(QVector<QPoint> { { 93, 0 }, { 107, 0 }, { 107, 8 }, { 100, 16 }, { 93, 8 } }));
+    QCOMPARE(p.presenter.splitButtonCaptureRect(), QRect(80, 67, 40, 35));
+    p.presenter.setSplitButtonVisible(false);
+    QVERIFY(!p.timeline.playhead()->isSplitButtonVisible());
+    QVERIFY(p.presenter.splitButtonCaptureRect().isEmpty());
+    QCOMPARE(p.presenter.splitButtonRect(), QRect(80, 67, 40, 35));
 }
 
 void tst_MvTimelinePlayheadPresenter::splitButtonYIsClamped_data()
 {
     QTest::addColumn<int>("viewHeight");
+    QTest::addColumn<int>("minY");
     QTest::addColumn<int>("requested");
     QTest::addColumn<int>("stored");
-    QTest::newRow("inside") << 200 << 100 << 100;
-    QTest::newRow("below a 50 px view") << 50 << 100 << 15;
-    QTest::newRow("view lower than the button") << 20 << 100 << 0;
-    QTest::newRow("above the top") << 200 << -10 << 0;
-    QTest::newRow("exactly at the bottom") << 200 << 165 << 165;
+    QTest::newRow("inside") << 200 << 0 << 100 << 100;
+    QTest::newRow("below a 50 px view") << 50 << 0 << 100 << 15;
+    QTest::newRow("view lower than the button") << 20 << 0 << 100 << 0;
+    QTest::newRow("above the top") << 200 << 0 << -10 << 0;
+    QTest::newRow("above minY") << 200 << 80 << 70 << 80;
+    QTest::newRow("minY wins in a low view") << 90 << 80 << 100 << 80;
 }
 
+// Neither a new view nor a new minY moves the button; the next write, by either path, clamps.
 void tst_MvTimelinePlayheadPresenter::splitButtonYIsClamped()
 {
     QFETCH(int, viewHeight);
+    QFETCH(int, minY);
     QFETCH(int, requested);
     QFETCH(int, stored);
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.updateViewRect(QRect(0, 0, 400, viewHeight));
-    presenter.setSplitButtonY(requested);
-    QCOMPARE(presenter.splitButtonY(), stored);
-}
-
-void tst_MvTimelinePlayheadPresenter::minYIsAppliedOnTheNextWriteOnly()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.updateViewRect(QRect(0, 0, 400, 200));
-    presenter.setSplitButtonMinY(80);
-    QCOMPARE(presenter.splitButtonY(), 67);
-    QCOMPARE(presenter.splitButtonYRange(), MvRange<int>(80, 165));
-    presenter.updatePosition(presenter.position(), 0);
-    QCOMPARE(presenter.splitButtonY(), 80);
-    // In a view too low for minY plus the button, minY still wins.
-    presenter.updateViewRect(QRect(0, 0, 400, 90));
-    presenter.setSplitButtonY(100);
-    QCOMPARE(presenter.splitButtonY(), 80);
-}
-
-void tst_MvTimelinePlayheadPresenter::sizeChangeDoesNotReclamp()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.updateViewRect(QRect(0, 0, 400, 200));
-    presenter.setSplitButtonY(160);
-    presenter.setSplitButtonSize(QSize(40, 60));
-    QCOMPARE(presenter.splitButtonY(), 160);
-    QCOMPARE(presenter.splitButtonYRange(), MvRange<int>(0, 140));
-    presenter.setSplitButtonY(presenter.splitButtonY());
-    QCOMPARE(presenter.splitButtonY(), 140);
-    // Nor does a new view rectangle.
-    presenter.updateViewRect(QRect(0, 0, 400, 100));
-    QCOMPARE(presenter.splitButtonY(), 140);
-}
-
-void tst_MvTimelinePlayheadPresenter::headGeometryFollowsThePosition()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    project.timeline.playhead()->setCurrentFrame(100);
-    QCOMPARE(presenter.position(), 100);
-    QCOMPARE(presenter.playheadRect(), QRect(94, 0, 12, 12));
-    QCOMPARE(presenter.currentShape(),
-        QPolygon(QVector<QPoint> { { 93, 0 }, { 107, 0 }, { 107, 8 }, { 100, 16 }, { 93, 8 } }));
-    // The head image square does not follow the shape.
-    presenter.playheadData()->shape = QPolygon(QVector<QPoint> { { -20, 0 }, { 20, 0 }, { 0, 30 } });
-    QCOMPARE(presenter.playheadRect(), QRect(94, 0, 12, 12));
-}
-
-void tst_MvTimelinePlayheadPresenter::splitButtonRectHalvesTheWidth()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.updateViewRect(QRect(0, 0, 400, 200));
-    project.timeline.playhead()->setCurrentFrame(100);
-    QCOMPARE(presenter.splitButtonRect(), QRect(80, 67, 40, 35));
-    presenter.setSplitButtonSize(QSize(41, 30));
-    QCOMPARE(presenter.splitButtonRect(), QRect(80, 67, 41, 30));
-}
-
-void tst_MvTimelinePlayheadPresenter::captureRectIsEmptyWhileTheButtonIsHidden()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    project.timeline.playhead()->setCurrentFrame(100);
-    QCOMPARE(presenter.splitButtonCaptureRect(), presenter.splitButtonRect());
-    presenter.setSplitButtonVisible(false);
-    QVERIFY(!project.timeline.playhead()->isSplitButtonVisible());
-    QVERIFY(!presenter.splitButtonVisible());
-    QVERIFY(presenter.splitButtonCaptureRect().isEmpty());
-    QCOMPARE(presenter.splitButtonRect(), QRect(80, 67, 40, 35));
+    Project p;
+    p.presenter.updateViewRect(QRect(0, 0, 400, viewHeight));
+    p.presenter.setSplitButtonMinY(minY);
+    QCOMPARE(p.presenter.splitButtonY(), 67);
+    QSignalSpy repaint(&p.presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
+    p.presenter.updatePosition(100, requested - 67);
+    QCOMPARE(p.presenter.splitButtonY(), stored);
+    QVERIFY(repaint.isEmpty()); // the playhead stayed, so the model had nothing to tell
+    p.presenter.setSplitButtonY(67);
+    p.presenter.setSplitButtonY(requested);
+    QCOMPARE(p.presenter.splitButtonY(), stored);
 }
 
 void tst_MvTimelinePlayheadPresenter::disabledPlayheadResolvesToTheDisabledStatus()
 {
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.setPlayheadColor(MVWIDGETS::Hover, Qt::green);
-    presenter.setPlayheadColor(MVWIDGETS::Disabled, Qt::gray);
-    presenter.addSplitButtonImage(MVWIDGETS::Hover, solid(Qt::green));
-    presenter.addSplitButtonImage(MVWIDGETS::Disabled, solid(Qt::gray));
-    presenter.setSplitButtonStatus(MVWIDGETS::Hover);
-    QCOMPARE(presenter.splitButtonStatus(), MVWIDGETS::Hover);
-    QCOMPARE(presenter.currentPlayheadColor(), QColor(Qt::green));
-    QCOMPARE(presenter.currentSplitButtonImage().pixelColor(0, 0), QColor(Qt::green));
-
-    project.timeline.playhead()->setEnabled(false);
-    QCOMPARE(presenter.splitButtonStatus(), MVWIDGETS::Disabled);
-    QCOMPARE(presenter.currentPlayheadColor(), QColor(Qt::gray));
-    QCOMPARE(presenter.currentSplitButtonImage().pixelColor(0, 0), QColor(Qt::gray));
-    // The stored status is kept for when the playhead comes back.
-    QCOMPARE(presenter.playheadData()->status, MVWIDGETS::Hover);
-    project.timeline.playhead()->setEnabled(true);
-    QCOMPARE(presenter.splitButtonStatus(), MVWIDGETS::Hover);
-}
-
-void tst_MvTimelinePlayheadPresenter::missingStatusGivesNoFallback()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.setPlayheadColor(MVWIDGETS::Normal, Qt::red);
-    presenter.addSplitButtonImage(MVWIDGETS::Normal, solid(Qt::red));
-    presenter.setSplitButtonStatus(MVWIDGETS::Pressed);
-    QVERIFY(!presenter.currentPlayheadColor().isValid());
-    QVERIFY(presenter.currentSplitButtonImage().isNull());
-    QVERIFY(presenter.currentPlayheadPixmap().isNull()); // the base class has no head image
-    // Setting again replaces.
-    presenter.setPlayheadColor(MVWIDGETS::Pressed, Qt::blue);
-    presenter.setPlayheadColor(MVWIDGETS::Pressed, Qt::yellow);
-    QCOMPARE(presenter.currentPlayheadColor(), QColor(Qt::yellow));
-    QCOMPARE(presenter.playheadData()->colors.size(), 2);
+    Project p;
+    p.presenter.setPlayheadColor(Status::Hover, Qt::green);
+    p.presenter.setPlayheadColor(Status::Disabled, Qt::gray);
+    p.presenter.addSplitButtonImage(Status::Hover, solid(Qt::green));
+    p.presenter.addSplitButtonImage(Status::Disabled, solid(Qt::gray));
+    p.presenter.setSplitButtonStatus(Status::Hover);
+    QCOMPARE(p.presenter.currentPlayheadColor(), QColor(Qt::green));
+    QCOMPARE(p.presenter.currentSplitButtonImage().pixelColor(0, 0), QColor(Qt::green));
+    p.timeline.playhead()->setEnabled(false);
+    QCOMPARE(p.presenter.splitButtonStatus(), Status::Disabled);
+    QCOMPARE(p.presenter.currentPlayheadColor(), QColor(Qt::gray));
+    QCOMPARE(p.presenter.currentSplitButtonImage().pixelColor(0, 0), QColor(Qt::gray));
+    QCOMPARE(p.presenter.playheadData()->status, Status::Hover);
+    // A status with nothing stored gets nothing: there is no fallback.
+    p.timeline.playhead()->setEnabled(true);
+    p.presenter.setSplitButtonStatus(Status::Pressed);
+    QVERIFY(!p.presenter.currentPlayheadColor().isValid());
+    QVERIFY(p.presenter.currentSplitButtonImage().isNull());
+    QVERIFY(p.presenter.currentPlayheadPixmap().isNull());
 }
 
 void tst_MvTimelinePlayheadPresenter::colourAsksTheVirtualEnabledStateButImagesAskTheModel()
 {
-    Project project;
-    EnabledOverridePresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.setPlayheadColor(MVWIDGETS::Normal, Qt::red);
-    presenter.setPlayheadColor(MVWIDGETS::Disabled, Qt::gray);
-    project.timeline.playhead()->setEnabled(false);
+    Project p;
+    EnabledOverridePresenter presenter(&p.timelinePresenter, nullptr);
+    presenter.setPlayheadColor(Status::Normal, Qt::red);
+    presenter.setPlayheadColor(Status::Disabled, Qt::gray);
+    p.timeline.playhead()->setEnabled(false);
     QCOMPARE(presenter.currentPlayheadColor(), QColor(Qt::red));
-    QCOMPARE(presenter.currentPlayheadPixmap().pixelColor(0, 0), QColor(40, 0, 0));
-    QCOMPARE(presenter.splitButtonStatus(), MVWIDGETS::Disabled);
+    QCOMPARE(presenter.currentPlayheadPixmap().pixelColor(0, 0), QColor(int(Status::Disabled) * 10, 0, 0));
 }
 
-void tst_MvTimelinePlayheadPresenter::updatePositionMovesPlayheadAndButton()
+void tst_MvTimelinePlayheadPresenter::modelEventsRepaint_data()
 {
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.updateViewRect(QRect(0, 0, 400, 200));
-    QSignalSpy repaint(&presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
-    presenter.updatePosition(250, 30);
-    QCOMPARE(project.timeline.playhead()->currentFrame(), 250);
-    QCOMPARE(presenter.position(), 250);
-    QCOMPARE(presenter.splitButtonY(), 97);
-    // The repaint comes from the model's notifications; the presenter adds none of its own.
-    QVERIFY(repaint.count() >= 1);
-    const int afterMove = repaint.count();
-    presenter.updatePosition(250, 500);
-    QCOMPARE(presenter.splitButtonY(), 165);
-    QCOMPARE(repaint.count(), afterMove);
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<bool>("repaints");
+    QTest::newRow("playhead visible (0)") << Change([](IMvTimeline* t) { t->playhead()->setVisible(false); }) << true;
+    QTest::newRow("playhead enabled (1)") << Change([](IMvTimeline* t) { t->playhead()->setEnabled(false); }) << true;
+    QTest::newRow("virtual state (3)") << Change([](IMvTimeline* t) { t->playhead()->virtualOpened(); }) << false;
+    QTest::newRow("split button visible (100)")
+        << Change([](IMvTimeline* t) { t->playhead()->setSplitButtonVisible(false); }) << true;
+    QTest::newRow("split button enabled (101)")
+        << Change([](IMvTimeline* t) { t->playhead()->setSplitButtonEnabled(false); }) << true;
+    QTest::newRow("ruler frame rate") << Change([](IMvTimeline* t) { t->ruler()->setFrameRate(25, 1); }) << true;
 }
 
-void tst_MvTimelinePlayheadPresenter::playheadKindsRepaint_data()
+void tst_MvTimelinePlayheadPresenter::modelEventsRepaint()
 {
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<int>("repaints");
-    QTest::newRow("visible (0)") << QStringLiteral("visible") << 1;
-    QTest::newRow("enabled (1)") << QStringLiteral("enabled") << 1;
-    QTest::newRow("moved (2)") << QStringLiteral("moved") << 1;
-    QTest::newRow("virtual state (3)") << QStringLiteral("virtual") << 0;
-    QTest::newRow("split button visible (100)") << QStringLiteral("buttonVisible") << 1;
-    QTest::newRow("split button enabled (101)") << QStringLiteral("buttonEnabled") << 1;
-}
-
-void tst_MvTimelinePlayheadPresenter::playheadKindsRepaint()
-{
-    QFETCH(QString, change);
-    QFETCH(int, repaints);
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    QSignalSpy repaint(&presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
-    IMvTimelinePlayhead* playhead = project.timeline.playhead();
-    if (change == QLatin1String("visible"))
-        playhead->setVisible(false);
-    else if (change == QLatin1String("enabled"))
-        playhead->setEnabled(false);
-    else if (change == QLatin1String("moved"))
-        playhead->setCurrentFrame(10);
-    else if (change == QLatin1String("virtual"))
-        playhead->virtualOpened();
-    else if (change == QLatin1String("buttonVisible"))
-        playhead->setSplitButtonVisible(false);
-    else if (change == QLatin1String("buttonEnabled"))
-        playhead->setSplitButtonEnabled(false);
-    // A playhead move also moves the ruler's current frame, a ruler event of its own.
-    const int rulerEvents = change == QLatin1String("moved") ? 1 : 0;
-    QCOMPARE(repaint.count(), repaints + rulerEvents);
-}
-
-void tst_MvTimelinePlayheadPresenter::everyRulerEventRepaints()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    QSignalSpy repaint(&presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
-    project.timeline.ruler()->setViewWidth(500);
-    QVERIFY(repaint.count() >= 1);
-    const int afterWidth = repaint.count();
-    project.timeline.ruler()->setFrameRate(25, 1);
-    QVERIFY(repaint.count() > afterWidth);
+    QFETCH(Change, change);
+    QFETCH(bool, repaints);
+    Project p;
+    QSignalSpy repaint(&p.presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
+    change(&p.timeline);
+    QCOMPARE(!repaint.isEmpty(), repaints);
 }
 
 void tst_MvTimelinePlayheadPresenter::registersWithPlayheadAndRulerAndLeaves()
 {
-    Project project;
-    MvMemoryPlayhead* playhead = project.timeline.playheadImpl();
-    const int playheadBefore = playhead->observerCount();
-    const int rulerBefore = project.ruler()->observerCount();
+    Project p;
+    const auto counts = [&p]() {
+        auto* ruler = dynamic_cast<MvMemoryRuler*>(p.timeline.ruler());
+        return qMakePair(p.timeline.playheadImpl()->observerCount(), ruler->observerCount());
+    };
+    const QPair<int, int> before = counts();
     {
-        MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-        QCOMPARE(playhead->observerCount(), playheadBefore + 1);
-        QCOMPARE(project.ruler()->observerCount(), rulerBefore + 1);
+        MvTimelinePlayheadPresenter presenter(&p.timelinePresenter, nullptr);
+        QCOMPARE(counts(), qMakePair(before.first + 1, before.second + 1));
     }
-    QCOMPARE(playhead->observerCount(), playheadBefore);
-    QCOMPARE(project.ruler()->observerCount(), rulerBefore);
-}
-
-void tst_MvTimelinePlayheadPresenter::splitAsksTheTimelinePresenter()
-{
-    Project project;
-    MvTimelinePlayheadPresenter presenter(&project.timelinePresenter, nullptr);
-    presenter.splitClips();
-    QCOMPARE(project.timelinePresenter.splits.size(), 1);
-    QCOMPARE(project.timelinePresenter.splits.at(0).frame, -1);
-    QVERIFY(project.timelinePresenter.splits.at(0).select);
-    QVERIFY(!project.timelinePresenter.splits.at(0).prepareFlag);
+    QCOMPARE(counts(), before);
 }
 
 void tst_MvTimelinePlayheadPresenter::presenterWithoutTimelineRefusesQuietly()
 {
     MvTimelinePresenter noTimeline(nullptr, nullptr);
     MvTimelinePlayheadPresenter presenter(&noTimeline, nullptr);
-    QCOMPARE(presenter.position(), 0);
-    QVERIFY(!presenter.playheadVisible());
-    QVERIFY(!presenter.playheadEnabled());
-    QCOMPARE(presenter.splitButtonStatus(), MVWIDGETS::Disabled);
     presenter.updatePosition(50, 10);
-    presenter.setSplitButtonVisible(true);
+    presenter.splitClips();
+    QCOMPARE(presenter.position(), 0);
+    QCOMPARE(presenter.splitButtonStatus(), Status::Disabled);
     QVERIFY(presenter.splitButtonCaptureRect().isEmpty());
-
-    MvTimelinePlayheadPresenter orphan(nullptr, nullptr);
-    orphan.splitClips();
-    QCOMPARE(orphan.timelinePresenter(), nullptr);
-    QCOMPARE(orphan.position(), 0);
+    QCOMPARE(MvTimelinePlayheadPresenter(nullptr, nullptr).position(), 0);
 }
 
 QTEST_MAIN(tst_MvTimelinePlayheadPresenter)

@@ -1,9 +1,9 @@
 #include "IMvShortcutEditManager.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
-#include "IMvUndoRedoService.h"
 #include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvColorProbe.h"
 #include "MvEventFilterManager.h"
 #include "MvRecordingScene.h"
 #include "MvTimelinePlayheadPresenter.h"
@@ -11,91 +11,60 @@
 #include "MvTimelinePresenter.h"
 #include "MvToolTipHelper.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
-#include <QPainter>
-#include <QSignalSpy>
 #include <QtTest>
 
 using namespace MVVBLMODEL;
+using Item = MvTimelinePlayheadWidget::FItemType;
+using Status = MVWIDGETS::MvWidgetStyleStatus;
 
 namespace {
-class SplitRecordingPresenter : public MvTimelinePresenter
+// A host theme that supplies a head image.
+class HeadImagePresenter : public MvTimelinePlayheadPresenter
 {
 public:
-    using MvTimelinePresenter::MvTimelinePresenter;
-    int splits = 0;
-    bool splitClips(qint64 frame, bool select, bool prepareFlag) override
-    {
-        if (frame == -1 && select && !prepareFlag)
-            ++splits;
-        return true;
-    }
-};
-
-// The track area under the overlay: it offers its events to the filter manager first and keeps
-// what passed through.
-class TrackArea : public QWidget
-{
-public:
-    MvEventFilterManager manager;
-    bool lastConsumed = false;
-    int ownPresses = 0;
-    int ownMoves = 0;
+    using MvTimelinePlayheadPresenter::MvTimelinePlayheadPresenter;
+    QImage head;
 
 protected:
-    bool event(QEvent* event) override
-    {
-        switch (event->type()) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseMove:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::ContextMenu:
-        case QEvent::ToolTip:
-            lastConsumed = manager.dispatchEvent(event);
-            if (lastConsumed)
-                return true;
-            break;
-        default:
-            break;
-        }
-        return QWidget::event(event);
-    }
-    void mousePressEvent(QMouseEvent*) override { ++ownPresses; }
-    void mouseMoveEvent(QMouseEvent*) override { ++ownMoves; }
+    QImage getPlayheadPixmap(Status) override { return head; }
 };
 
-class CountingPlayheadWidget : public MvTimelinePlayheadWidget
+// The mouse events of the track area that the tests offer to the overlay.
+struct Kind
 {
-public:
-    using MvTimelinePlayheadWidget::MvTimelinePlayheadWidget;
-    int playheadDraws = 0;
-    int buttonDraws = 0;
-
-protected:
-    void drawPlayhead(QPainter* painter) override
-    {
-        ++playheadDraws;
-        MvTimelinePlayheadWidget::drawPlayhead(painter);
-    }
-    void drawSplitButton(QPainter* painter) override
-    {
-        ++buttonDraws;
-        MvTimelinePlayheadWidget::drawSplitButton(painter);
-    }
+    QEvent::Type type;
+    Qt::MouseButton button;
+    Qt::MouseButtons held;
 };
+const Kind Press { QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton };
+const Kind Move { QEvent::MouseMove, Qt::NoButton, Qt::LeftButton };
+const Kind Release { QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton };
+const Kind Hover { QEvent::MouseMove, Qt::NoButton, Qt::NoButton };
+const Kind RightPress { QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton };
+const Kind RightRelease { QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton };
+const Kind DoubleClick { QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton };
 
-// A 1000-frame clip in a 400 x 200 track area, 1 px per frame after zooming in; the playhead at
-// 100, so the head spans x 93..107 and y 0..16 and the split button is (80, 67, 40, 35).
+// One event, and whether the overlay is to take it (or let it pass on to the track area).
+struct Step
+{
+    Kind kind = Hover;
+    QPoint pos;
+    bool consumed = true;
+};
+using Steps = QList<Step>;
+
+// A 1000-frame clip at 1 px per frame under a 400 x 200 overlay that gets the track area's events
+// from the filter manager. Playhead at 100: head x 93..107, y 0..16; split button (80, 67, 40, 35).
 struct Fixture
 {
     MvMemoryTimeline timeline;
     MvRecordingScene scene;
-    SplitRecordingPresenter timelinePresenter { nullptr, &timeline };
-    MvTimelinePlayheadPresenter presenter { &timelinePresenter, &timelinePresenter };
-    TrackArea area;
-    CountingPlayheadWidget* overlay;
+    MvTimelinePresenter timelinePresenter { nullptr, &timeline };
+    HeadImagePresenter presenter { &timelinePresenter, &timelinePresenter };
+    QWidget area;
+    MvEventFilterManager manager;
+    MvTimelinePlayheadWidget* overlay = new MvTimelinePlayheadWidget(&presenter, &area);
 
     Fixture()
     {
@@ -103,54 +72,30 @@ struct Fixture
         timeline.addClip(0, ClipType_Video, 0, 999, QStringLiteral("a"));
         timeline.ruler()->setViewWidth(1000);
         timelinePresenter.setScene(&scene);
-        overlay = new CountingPlayheadWidget(&presenter, &area);
-        // Hover moves (no button held) reach a widget only while it tracks the mouse.
-        area.setMouseTracking(true);
         area.setGeometry(100, 100, 400, 200);
         overlay->setGeometry(0, 0, 400, 200);
-        area.manager.addFilter(overlay);
+        manager.addFilter(overlay);
         area.show();
         timeline.playhead()->setCurrentFrame(100);
     }
-
-    bool mouse(QEvent::Type type, const QPoint& pos, Qt::MouseButton button, Qt::MouseButtons buttons)
+    bool send(const Step& step)
     {
-        QMouseEvent event(type, QPointF(pos), QPointF(area.mapToGlobal(pos)), button, buttons, Qt::NoModifier);
-        QApplication::sendEvent(&area, &event);
-        return area.lastConsumed;
-    }
-    bool press(const QPoint& pos, Qt::MouseButton button = Qt::LeftButton)
-    {
-        return mouse(QEvent::MouseButtonPress, pos, button, button);
-    }
-    bool move(const QPoint& pos, Qt::MouseButtons buttons = Qt::LeftButton)
-    {
-        return mouse(QEvent::MouseMove, pos, Qt::NoButton, buttons);
-    }
-    bool release(const QPoint& pos, Qt::MouseButton button = Qt::LeftButton)
-    {
-        return mouse(QEvent::MouseButtonRelease, pos, button, Qt::NoButton);
+        const Kind& k = step.kind;
+        QMouseEvent event(
+            k.type, QPointF(step.pos), QPointF(area.mapToGlobal(step.pos)), k.button, k.held, Qt::NoModifier);
+        return manager.dispatchEvent(&event);
     }
     bool toolTip(const QPoint& pos)
     {
         QHelpEvent event(QEvent::ToolTip, pos, area.mapToGlobal(pos));
-        QApplication::sendEvent(&area, &event);
-        return area.lastConsumed;
+        return manager.dispatchEvent(&event);
     }
-    int x() { return presenter.position(); }
+    int splits() const { return timeline.liveClips().size() - 1; }
 };
 
 const QPoint kButton(100, 84);
 const QPoint kHead(100, 5);
 const QPoint kEmpty(300, 150);
-
-QImage render(QWidget* widget)
-{
-    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
 
 QImage solid(const QColor& color, const QSize& size = QSize(20, 20))
 {
@@ -160,443 +105,163 @@ QImage solid(const QColor& color, const QSize& size = QSize(20, 20))
 }
 }
 
+Q_DECLARE_METATYPE(Step)
+Q_DECLARE_METATYPE(Item)
+Q_DECLARE_METATYPE(Status)
+
 class tst_MvTimelinePlayheadWidget : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void hitTest_data();
     void hitTest();
-    void disabledPlayheadCatchesNothing();
-    void clickOnTheButtonSplitsOnce();
-    void dragOverTheButtonNeverSplits();
-    void clickCutsTheClipUnderThePlayheadInTheModel();
-    void draggingTheHeadMovesThePlayheadWithinTheView();
-    void draggingTheButtonKeepsItUnderThePointer_data();
-    void draggingTheButtonKeepsItUnderThePointer();
-    void leftDragFromElsewherePassesThrough();
-    void hoverShowsTheButtonState();
-    void rightClickOnTheButtonSplitsAndFollows();
-    void followModeYieldsToPlayback();
-    void pressElsewhereEndsFollowMode();
-    void contextMenuIsSwallowedOverItemsOnly_data();
-    void contextMenuIsSwallowedOverItemsOnly();
-    void doubleClickPassesThrough();
-    void toolTipNamesTheShortcut_data();
-    void toolTipNamesTheShortcut();
-    void toolTipOnlyOverTheButton();
-    void resizeReclampsTheButton();
-    void paintsTheLineInTheStatusColour();
-    void paintsTheSplitButtonImageScaled();
-    void paintsTheHeadImageOfASubclass();
-    void hiddenPlayheadOrButtonIsNotDrawn();
+    void gesture_data();
+    void gesture();
+    void followModeAsksTheHostBeforeEveryMove();
+    void toolTipNamesTheShortcutWhenThereIsOne();
+    void paintsHeadLineAndButtonByStatus();
 };
-
-void tst_MvTimelinePlayheadWidget::init()
-{
-    MvToolTipHelper::resetHistory();
-    IMvShortcutEditManager::SetInstance(nullptr);
-    static_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance())->clear();
-}
 
 void tst_MvTimelinePlayheadWidget::hitTest_data()
 {
-    QTest::addColumn<int>("buttonY");
+    QTest::addColumn<QString>("setup");
     QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<int>("item");
-    QTest::newRow("head tip") << 67 << QPoint(100, 15) << int(MvTimelinePlayheadWidget::Playhead);
-    QTest::newRow("head corner") << 67 << QPoint(94, 1) << int(MvTimelinePlayheadWidget::Playhead);
-    QTest::newRow("beside the tip") << 67 << QPoint(94, 15) << int(MvTimelinePlayheadWidget::None);
-    QTest::newRow("line below the head") << 67 << QPoint(100, 40) << int(MvTimelinePlayheadWidget::None);
-    QTest::newRow("button") << 67 << QPoint(100, 84) << int(MvTimelinePlayheadWidget::SplitButton);
-    QTest::newRow("button edge") << 67 << QPoint(119, 101) << int(MvTimelinePlayheadWidget::SplitButton);
-    QTest::newRow("beyond the button") << 67 << QPoint(120, 84) << int(MvTimelinePlayheadWidget::None);
-    QTest::newRow("head over raised button") << 0 << QPoint(100, 5) << int(MvTimelinePlayheadWidget::Playhead);
-    QTest::newRow("raised button beside the head") << 0 << QPoint(85, 5) << int(MvTimelinePlayheadWidget::SplitButton);
+    QTest::addColumn<Item>("item");
+    QTest::newRow("head tip") << QString() << QPoint(100, 15) << Item::Playhead;
+    QTest::newRow("beside the tip") << QString() << QPoint(94, 15) << Item::None;
+    QTest::newRow("line below the head") << QString() << QPoint(100, 40) << Item::None;
+    QTest::newRow("button edge") << QString() << QPoint(119, 101) << Item::SplitButton;
+    QTest::newRow("beyond the button") << QString() << QPoint(120, 84) << Item::None;
+    QTest::newRow("hidden button") << QStringLiteral("hidden") << kButton << Item::None;
+    QTest::newRow("disabled playhead") << QStringLiteral("disabled") << kHead << Item::None;
+    QTest::newRow("head over raised button") << QStringLiteral("raised") << kHead << Item::Playhead;
+    QTest::newRow("raised button beside the head") << QStringLiteral("raised") << QPoint(85, 5) << Item::SplitButton;
 }
 
+// Presses and context menus are taken over both items, tool tips shown over the button only.
 void tst_MvTimelinePlayheadWidget::hitTest()
 {
-    QFETCH(int, buttonY);
+    QFETCH(QString, setup);
     QFETCH(QPoint, pos);
-    QFETCH(int, item);
+    QFETCH(Item, item);
     Fixture f;
-    f.presenter.setSplitButtonY(buttonY);
-    QCOMPARE(int(f.overlay->captureItem(pos)), item);
+    f.presenter.setSplitButtonVisible(setup != QLatin1String("hidden"));
+    f.timeline.playhead()->setEnabled(setup != QLatin1String("disabled"));
+    f.presenter.setSplitButtonY(setup == QLatin1String("raised") ? 0 : 67);
+    QCOMPARE(f.overlay->captureItem(pos), item);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, pos, f.area.mapToGlobal(pos));
+    QCOMPARE(f.manager.dispatchEvent(&menu), item != Item::None);
+    QCOMPARE(f.toolTip(pos), item == Item::SplitButton);
+    QCOMPARE(f.send({ Press, pos }), item != Item::None);
+    QCOMPARE(f.send({ Release, pos }), item != Item::None);
+    QCOMPARE(f.splits(), item == Item::SplitButton ? 1 : 0);
 }
 
-void tst_MvTimelinePlayheadWidget::disabledPlayheadCatchesNothing()
+void tst_MvTimelinePlayheadWidget::gesture_data()
 {
+    const QPoint moved(103, 84);
+    const QPoint away(230, 150);
+    const Steps click { { Press, kButton }, { Release, kButton } };
+    const Steps drag { { Press, kButton }, { Move, moved }, { Release, moved } };
+    const Steps rightClickOnTheHead { { RightPress, kHead }, { RightRelease, kHead } };
+    QTest::addColumn<Steps>("steps");
+    QTest::addColumn<int>("splits");
+    QTest::addColumn<QPoint>("playhead"); // x of the playhead, top of the split button
+    QTest::addColumn<Status>("status");
+    QTest::newRow("drag over the button") << drag << 0 << QPoint(103, 67) << Status::Hover;
+    QTest::newRow("click after a drag") << drag + click << 1 << QPoint(103, 67) << Status::Hover;
+    QTest::newRow("head past the right edge")
+        << Steps { { Press, kHead }, { Move, { 250, 60 } }, { Move, { 900, 5 } }, { Release, { 900, 5 }, false } } << 0
+        << QPoint(400, 67) << Status::Normal;
+    QTest::newRow("head past the left edge")
+        << Steps { { Press, kHead }, { Move, { -50, 5 } } } << 0 << QPoint(0, 67) << Status::Normal;
+    QTest::newRow("button top grabbed, below the view")
+        << Steps { { Press, { 100, 67 } }, { Move, { 150, 500 } } } << 0 << QPoint(150, 165) << Status::Pressed;
+    QTest::newRow("button middle grabbed, below the view and back")
+        << Steps { { Press, { 100, 80 } }, { Move, { 150, 500 } }, { Move, { 150, 100 } } } << 0 << QPoint(150, 87)
+        << Status::Pressed;
+    QTest::newRow("left drag begun elsewhere") << Steps { { Press, kEmpty, false }, { Move, kButton, false },
+        { Release, kButton, false }, { DoubleClick, kButton, false } }
+                                               << 0 << QPoint(100, 67) << Status::Normal;
+    QTest::newRow("hover over the button") << Steps { { Hover, kButton } } << 0 << QPoint(100, 67) << Status::Hover;
+    QTest::newRow("right click on the button follows") << Steps { { RightPress, kButton }, { RightRelease, kButton },
+        { Hover, away } } << 1 << QPoint(230, 133) << Status::Pressed;
+    QTest::newRow("right click on the head follows")
+        << rightClickOnTheHead + Steps { { Hover, away } } << 0 << QPoint(230, 67) << Status::Normal;
+    QTest::newRow("press elsewhere ends following")
+        << rightClickOnTheHead + Steps { { Press, kEmpty, false }, { Move, away, false }, { Hover, away, false } } << 0
+        << QPoint(100, 67) << Status::Normal;
+}
+
+void tst_MvTimelinePlayheadWidget::gesture()
+{
+    QFETCH(Steps, steps);
+    QFETCH(int, splits);
+    QFETCH(QPoint, playhead);
+    QFETCH(Status, status);
     Fixture f;
-    f.timeline.playhead()->setEnabled(false);
-    QCOMPARE(f.overlay->captureItem(kHead), MvTimelinePlayheadWidget::None);
-    QVERIFY(!f.press(kButton));
-    QCOMPARE(f.area.ownPresses, 1);
-    QVERIFY(!f.release(kButton));
-    QCOMPARE(f.timelinePresenter.splits, 0);
-    QVERIFY(!f.toolTip(kButton));
-    QCOMPARE(MvToolTipHelper::shownCount(), 0);
-
-    // Hovering keeps storing Normal, and keeps repainting: the presenter reports Disabled.
-    f.presenter.setSplitButtonStatus(MVWIDGETS::Hover);
-    QVERIFY(!f.move(kButton, Qt::NoButton));
-    QCOMPARE(f.presenter.playheadData()->status, MVWIDGETS::Normal);
-    QTRY_VERIFY(f.overlay->playheadDraws > 0);
-    const int draws = f.overlay->playheadDraws;
-    QVERIFY(!f.move(kButton + QPoint(1, 0), Qt::NoButton));
-    QTRY_VERIFY(f.overlay->playheadDraws > draws);
+    for (int i = 0; i < steps.size(); ++i)
+        QVERIFY2(f.send(steps.at(i)) == steps.at(i).consumed, qPrintable(QStringLiteral("step %1").arg(i)));
+    QCOMPARE(f.splits(), splits);
+    QCOMPARE(QPoint(f.presenter.position(), f.presenter.splitButtonY()), playhead);
+    QCOMPARE(f.presenter.splitButtonStatus(), status);
 }
 
-void tst_MvTimelinePlayheadWidget::clickOnTheButtonSplitsOnce()
-{
-    Fixture f;
-    QVERIFY(f.press(kButton));
-    QCOMPARE(f.presenter.splitButtonStatus(), MVWIDGETS::Pressed);
-    QCOMPARE(f.overlay->itemStatus(), MVWIDGETS::Pressed);
-    QVERIFY(f.release(kButton));
-    QCOMPARE(f.timelinePresenter.splits, 1);
-    QCOMPARE(f.presenter.splitButtonStatus(), MVWIDGETS::Hover);
-    QCOMPARE(f.overlay->itemStatus(), MVWIDGETS::Hover);
-    QCOMPARE(f.area.ownPresses, 0);
-    QCOMPARE(f.x(), 100);
-}
-
-void tst_MvTimelinePlayheadWidget::dragOverTheButtonNeverSplits()
-{
-    Fixture f;
-    QVERIFY(f.press(kButton));
-    QVERIFY(f.move(kButton + QPoint(3, 0)));
-    QCOMPARE(f.x(), 103);
-    QVERIFY(f.release(kButton + QPoint(3, 0)));
-    QCOMPARE(f.timelinePresenter.splits, 0);
-    // The next click splits again.
-    QVERIFY(f.press(kButton + QPoint(3, 0)));
-    QVERIFY(f.release(kButton + QPoint(3, 0)));
-    QCOMPARE(f.timelinePresenter.splits, 1);
-}
-
-void tst_MvTimelinePlayheadWidget::clickCutsTheClipUnderThePlayheadInTheModel()
-{
-    MvMemoryTimeline timeline;
-    timeline.addTrack(TrackType_Picture);
-    timeline.addClip(0, ClipType_Video, 0, 999, QStringLiteral("a"));
-    timeline.ruler()->setViewWidth(1000);
-    MvRecordingScene scene;
-    MvTimelinePresenter timelinePresenter(nullptr, &timeline);
-    timelinePresenter.setScene(&scene);
-    MvTimelinePlayheadPresenter presenter(&timelinePresenter, nullptr);
-    TrackArea area;
-    auto* overlay = new MvTimelinePlayheadWidget(&presenter, &area);
-    area.setGeometry(100, 100, 400, 200);
-    overlay->setGeometry(0, 0, 400, 200);
-    area.manager.addFilter(overlay);
-    area.show();
-    timeline.playhead()->setCurrentFrame(300);
-
-    const QPoint button(300, 84);
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(button), QPointF(area.mapToGlobal(button)), Qt::LeftButton,
-        Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&area, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(button), QPointF(area.mapToGlobal(button)), Qt::LeftButton,
-        Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(&area, &release);
-
-    const QList<MvMemoryClip*> clips = timeline.liveClips();
-    QCOMPARE(clips.size(), 2);
-    QCOMPARE(clips.at(0)->end(), 299);
-    QCOMPARE(clips.at(1)->start(), 300);
-    QCOMPARE(timeline.undoRedoService()->undoName(), QStringLiteral("split"));
-    QCOMPARE(timeline.checkInvariants(), QString());
-    area.manager.removeFilter(overlay);
-}
-
-void tst_MvTimelinePlayheadWidget::draggingTheHeadMovesThePlayheadWithinTheView()
+void tst_MvTimelinePlayheadWidget::followModeAsksTheHostBeforeEveryMove()
 {
     Fixture f;
-    QSignalSpy started(&f.presenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead);
-    QSignalSpy ended(&f.presenter, &MvTimelinePlayheadPresenter::sigEndDragPlayHead);
-    QVERIFY(f.press(kHead));
-    QCOMPARE(started.count(), 1);
-    QCOMPARE(f.presenter.splitButtonStatus(), MVWIDGETS::Normal);
-    QVERIFY(f.move(QPoint(250, 60)));
-    QCOMPARE(f.x(), 250);
-    QCOMPARE(f.presenter.splitButtonY(), 67); // the head moves the playhead only
-    QVERIFY(f.move(QPoint(900, 5)));
-    QCOMPARE(f.x(), 400);
-    QVERIFY(f.move(QPoint(-50, 5)));
-    QCOMPARE(f.x(), 0);
-    QCOMPARE(ended.count(), 0);
-    f.release(QPoint(-50, 5));
-    QCOMPARE(ended.count(), 1);
-    QCOMPARE(started.count(), 1);
-    QCOMPARE(f.timelinePresenter.splits, 0);
+    f.send({ Press, kHead });
+    f.send({ Move, QPoint(250, 5) });
+    f.send({ Release, QPoint(250, 5) });
+    QCOMPARE(f.scene.count(7033), 0); // a drag with a button held is never asked about
+    f.send({ RightPress, QPoint(250, 5) });
+    f.send({ RightRelease, QPoint(250, 5) });
+    f.scene.answerWith(7033, true); // the host follows playback: the playhead stays
+    QVERIFY(!f.send({ Hover, QPoint(300, 150) }));
+    QCOMPARE(f.presenter.position(), 250);
+    QCOMPARE(f.scene.count(7033), 1);
+    QCOMPARE(f.scene.entries().last().type, QStringLiteral("MvQueryMessage"));
 }
 
-void tst_MvTimelinePlayheadWidget::draggingTheButtonKeepsItUnderThePointer_data()
+void tst_MvTimelinePlayheadWidget::toolTipNamesTheShortcutWhenThereIsOne()
 {
-    QTest::addColumn<int>("grabY");
-    QTest::newRow("grabbed at its top") << 67;
-    QTest::newRow("grabbed in its middle") << 80;
-}
-
-void tst_MvTimelinePlayheadWidget::draggingTheButtonKeepsItUnderThePointer()
-{
-    QFETCH(int, grabY);
-    Fixture f;
-    const int offset = grabY - 67;
-    QVERIFY(f.press(QPoint(100, grabY)));
-    QVERIFY(f.move(QPoint(150, 120)));
-    QCOMPARE(f.x(), 150);
-    QCOMPARE(f.presenter.splitButtonY(), 120 - offset);
-    // Far below the view the pointer is clamped to the lowest button top...
-    QVERIFY(f.move(QPoint(150, 500)));
-    QCOMPARE(f.presenter.splitButtonY(), 165 - offset);
-    // ...and on the way back the button keeps its distance to the pointer.
-    QVERIFY(f.move(QPoint(150, 100)));
-    QCOMPARE(f.presenter.splitButtonY(), 100 - offset);
-    QVERIFY(f.release(QPoint(150, 100)));
-    QCOMPARE(f.timelinePresenter.splits, 0);
-}
-
-void tst_MvTimelinePlayheadWidget::leftDragFromElsewherePassesThrough()
-{
-    Fixture f;
-    QVERIFY(!f.press(kEmpty));
-    QCOMPARE(f.area.ownPresses, 1);
-    QVERIFY(!f.move(kButton));
-    QCOMPARE(f.area.ownMoves, 1);
-    QCOMPARE(f.presenter.splitButtonStatus(), MVWIDGETS::Normal);
-    QCOMPARE(f.overlay->itemStatus(), MVWIDGETS::Normal);
-    QCOMPARE(f.x(), 100);
-    QVERIFY(!f.release(kButton));
-    QCOMPARE(f.timelinePresenter.splits, 0);
-}
-
-void tst_MvTimelinePlayheadWidget::hoverShowsTheButtonState()
-{
-    Fixture f;
-    QVERIFY(f.move(kButton, Qt::NoButton));
-    QCOMPARE(f.presenter.splitButtonStatus(), MVWIDGETS::Hover);
-    QCOMPARE(f.overlay->capturedItem(), MvTimelinePlayheadWidget::SplitButton);
-    QVERIFY(f.move(kHead, Qt::NoButton));
-    QCOMPARE(f.presenter.splitButtonStatus(), MVWIDGETS::Normal);
-    QCOMPARE(f.overlay->capturedItem(), MvTimelinePlayheadWidget::Playhead);
-    QVERIFY(!f.move(kEmpty, Qt::NoButton));
-    QCOMPARE(f.overlay->itemStatus(), MVWIDGETS::Hover);
-    QCOMPARE(f.overlay->capturedItem(), MvTimelinePlayheadWidget::None);
-    QCOMPARE(f.area.ownMoves, 1);
-}
-
-void tst_MvTimelinePlayheadWidget::rightClickOnTheButtonSplitsAndFollows()
-{
-    Fixture f;
-    QVERIFY(f.press(kButton, Qt::RightButton));
-    QVERIFY(f.release(kButton, Qt::RightButton));
-    QCOMPARE(f.timelinePresenter.splits, 1);
-    QVERIFY(f.overlay->isFollowing());
-    QCOMPARE(f.scene.count(7033), 0);
-
-    QVERIFY(f.move(QPoint(230, 150), Qt::NoButton));
-    QCOMPARE(f.x(), 230);
-    QVERIFY(f.move(QPoint(260, 10), Qt::NoButton));
-    QCOMPARE(f.x(), 260);
-    QCOMPARE(f.scene.count(7033), 2);
-    const QList<MvRecordingScene::Entry> entries = f.scene.entries();
-    QCOMPARE(entries.last().type, QStringLiteral("MvQueryMessage"));
-    QCOMPARE(f.timelinePresenter.splits, 1);
-}
-
-void tst_MvTimelinePlayheadWidget::followModeYieldsToPlayback()
-{
-    Fixture f;
-    QVERIFY(f.press(kHead, Qt::RightButton));
-    QVERIFY(f.release(kHead, Qt::RightButton));
-    QCOMPARE(f.timelinePresenter.splits, 0); // the head does not split
-    f.scene.answerWith(7033, true);
-    QVERIFY(!f.move(QPoint(230, 150), Qt::NoButton));
-    QCOMPARE(f.x(), 100);
-    f.scene.answerWith(7033, false);
-    QVERIFY(f.move(QPoint(240, 150), Qt::NoButton));
-    QCOMPARE(f.x(), 240);
-    // A drag with a button held is never asked about.
-    f.scene.clear();
-    f.scene.answerWith(7033, true);
-    QVERIFY(f.press(QPoint(240, 5)));
-    QVERIFY(f.move(QPoint(200, 5)));
-    QCOMPARE(f.x(), 200);
-    QCOMPARE(f.scene.count(7033), 0);
-}
-
-void tst_MvTimelinePlayheadWidget::pressElsewhereEndsFollowMode()
-{
-    Fixture f;
-    QVERIFY(f.press(kButton, Qt::RightButton));
-    QVERIFY(f.release(kButton, Qt::RightButton));
-    QVERIFY(!f.press(kEmpty));
-    QVERIFY(!f.overlay->isFollowing());
-    // The drag that starts there belongs to the track area.
-    QVERIFY(!f.move(QPoint(350, 150)));
-    QCOMPARE(f.x(), 100);
-    QVERIFY(!f.release(QPoint(350, 150)));
-    QVERIFY(!f.move(QPoint(360, 150), Qt::NoButton));
-    QCOMPARE(f.x(), 100);
-}
-
-void tst_MvTimelinePlayheadWidget::contextMenuIsSwallowedOverItemsOnly_data()
-{
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<bool>("consumed");
-    QTest::newRow("head") << kHead << true;
-    QTest::newRow("button") << kButton << true;
-    QTest::newRow("line") << QPoint(100, 150) << false;
-    QTest::newRow("empty") << kEmpty << false;
-}
-
-void tst_MvTimelinePlayheadWidget::contextMenuIsSwallowedOverItemsOnly()
-{
-    QFETCH(QPoint, pos);
-    QFETCH(bool, consumed);
-    Fixture f;
-    QContextMenuEvent event(QContextMenuEvent::Mouse, pos, f.area.mapToGlobal(pos));
-    QApplication::sendEvent(&f.area, &event);
-    QCOMPARE(f.area.lastConsumed, consumed);
-}
-
-void tst_MvTimelinePlayheadWidget::doubleClickPassesThrough()
-{
-    Fixture f;
-    QVERIFY(!f.mouse(QEvent::MouseButtonDblClick, kButton, Qt::LeftButton, Qt::LeftButton));
-    QCOMPARE(f.timelinePresenter.splits, 0);
-}
-
-void tst_MvTimelinePlayheadWidget::toolTipNamesTheShortcut_data()
-{
-    QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("with shortcut") << QStringLiteral("Ctrl+B")
-                                   << QStringLiteral("Click to split (Ctrl+B)\nDrag to Move playhead");
-    QTest::newRow("without shortcut") << QString() << QStringLiteral("Click to split\nDrag to Move playhead");
-}
-
-void tst_MvTimelinePlayheadWidget::toolTipNamesTheShortcut()
-{
-    QFETCH(QString, shortcut);
-    QFETCH(QString, text);
-    MvShortcutEditManager shortcuts;
-    shortcuts.setShortcutText(2001, shortcut);
-    shortcuts.setShortcutText(2002, QStringLiteral("Ctrl+K"));
-    IMvShortcutEditManager::SetInstance(&shortcuts);
+    auto* shortcuts = static_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance());
+    shortcuts->setShortcutText(2002, QStringLiteral("Ctrl+K"));
     Fixture f;
     QVERIFY(f.toolTip(kButton));
-    IMvShortcutEditManager::SetInstance(nullptr);
-    QCOMPARE(MvToolTipHelper::lastText(), text);
+    QCOMPARE(MvToolTipHelper::lastText(), QStringLiteral("Click to split\nDrag to Move playhead"));
+    shortcuts->setShortcutText(2001, QStringLiteral("Ctrl+B"));
+    QVERIFY(f.toolTip(kButton));
+    shortcuts->clear();
+    QCOMPARE(MvToolTipHelper::lastText(), QStringLiteral("Click to split (Ctrl+B)\nDrag to Move playhead"));
     QCOMPARE(MvToolTipHelper::lastGlobalPos(), f.area.mapToGlobal(kButton));
     QCOMPARE(MvToolTipHelper::lastDisplayTime(), 3000);
 }
 
-void tst_MvTimelinePlayheadWidget::toolTipOnlyOverTheButton()
+void tst_MvTimelinePlayheadWidget::paintsHeadLineAndButtonByStatus()
 {
     Fixture f;
-    QVERIFY(!f.toolTip(kHead));
-    QVERIFY(!f.toolTip(kEmpty));
-    QCOMPARE(MvToolTipHelper::shownCount(), 0);
+    f.presenter.setPlayheadColor(Status::Normal, Qt::red);
+    f.presenter.setPlayheadColor(Status::Disabled, Qt::gray);
+    f.presenter.addSplitButtonImage(Status::Normal, solid(Qt::green));
+    f.presenter.addSplitButtonImage(Status::Hover, solid(Qt::blue));
+    f.presenter.head = solid(Qt::yellow, QSize(6, 6));
+    // The head image fills (94, 0) .. (105, 11), the 2 px line runs from y 12 down, and the button
+    // image is scaled into (80, 67) .. (119, 101) over the line.
+    const QList<QPoint> points { { 95, 1 }, { 92, 5 }, { 100, 199 }, { 103, 150 }, { 81, 68 }, { 118, 100 },
+        { 121, 84 } };
+    QCOMPARE(mvColorsAt(f.overlay, points), QStringLiteral("Y-R-GG-"));
+    f.send({ Hover, kButton });
+    QCOMPARE(mvColorsAt(f.overlay, { kButton }), QStringLiteral("B"));
     f.presenter.setSplitButtonVisible(false);
-    QVERIFY(!f.toolTip(kButton));
-    QCOMPARE(MvToolTipHelper::shownCount(), 0);
-}
-
-void tst_MvTimelinePlayheadWidget::resizeReclampsTheButton()
-{
-    Fixture f;
-    f.presenter.setSplitButtonY(150);
-    f.overlay->setGeometry(0, 0, 400, 100);
-    QCOMPARE(f.presenter.playheadData()->viewRect, QRect(0, 0, 400, 100));
-    QCOMPARE(f.presenter.splitButtonY(), 65);
-    QCOMPARE(f.presenter.maxRange(), MvRange<int>(0, 400));
-}
-
-void tst_MvTimelinePlayheadWidget::paintsTheLineInTheStatusColour()
-{
-    Fixture f;
-    f.presenter.setPlayheadColor(MVWIDGETS::Normal, Qt::red);
-    f.presenter.setPlayheadColor(MVWIDGETS::Disabled, Qt::gray);
-    f.presenter.setSplitButtonVisible(false);
-    QImage image = render(f.overlay);
-    QCOMPARE(image.pixelColor(100, 150), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(100, 199), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(100, 8).alpha(), 0); // above the line's top, no head image
-    QCOMPARE(image.pixelColor(103, 150).alpha(), 0);
-    QCOMPARE(image.pixelColor(97, 150).alpha(), 0);
-
+    QCOMPARE(mvColorsAt(f.overlay, { { 85, 84 } }), QStringLiteral("-"));
+    f.presenter.setSplitButtonVisible(true);
+    f.timeline.playhead()->setVisible(false); // takes the split button with it
+    QCOMPARE(mvColorsAt(f.overlay, { { 100, 150 }, { 85, 84 } }), QStringLiteral("--"));
+    f.timeline.playhead()->setVisible(true);
     f.timeline.playhead()->setEnabled(false);
-    image = render(f.overlay);
-    QCOMPARE(image.pixelColor(100, 150), QColor(Qt::gray));
-}
-
-void tst_MvTimelinePlayheadWidget::paintsTheSplitButtonImageScaled()
-{
-    Fixture f;
-    f.presenter.setPlayheadColor(MVWIDGETS::Normal, Qt::red);
-    f.presenter.addSplitButtonImage(MVWIDGETS::Normal, solid(Qt::green));
-    f.presenter.addSplitButtonImage(MVWIDGETS::Hover, solid(Qt::blue));
-    QImage image = render(f.overlay);
-    // (80, 67) to (119, 101), drawn over the line.
-    QCOMPARE(image.pixelColor(81, 68), QColor(Qt::green));
-    QCOMPARE(image.pixelColor(100, 84), QColor(Qt::green));
-    QCOMPARE(image.pixelColor(118, 100), QColor(Qt::green));
-    QCOMPARE(image.pixelColor(78, 84).alpha(), 0);
-    QCOMPARE(image.pixelColor(121, 84).alpha(), 0);
-    QCOMPARE(image.pixelColor(100, 120), QColor(Qt::red));
-
-    QVERIFY(f.move(kButton, Qt::NoButton));
-    image = render(f.overlay);
-    QCOMPARE(image.pixelColor(100, 84), QColor(Qt::blue));
-}
-
-void tst_MvTimelinePlayheadWidget::paintsTheHeadImageOfASubclass()
-{
-    class HeadPresenter : public MvTimelinePlayheadPresenter
-    {
-    public:
-        using MvTimelinePlayheadPresenter::MvTimelinePlayheadPresenter;
-
-    protected:
-        QImage getPlayheadPixmap(MVWIDGETS::MvWidgetStyleStatus status) override
-        {
-            return solid(status == MVWIDGETS::Disabled ? Qt::gray : Qt::yellow, QSize(6, 6));
-        }
-    };
-    Fixture f;
-    HeadPresenter presenter(&f.timelinePresenter, nullptr);
-    MvTimelinePlayheadWidget widget(&presenter, nullptr);
-    widget.resize(400, 200);
-    presenter.setSplitButtonVisible(false);
-    const QImage image = render(&widget);
-    // The 6 x 6 image fills the 12 x 12 square (94, 0) .. (105, 11).
-    QCOMPARE(image.pixelColor(95, 1), QColor(Qt::yellow));
-    QCOMPARE(image.pixelColor(104, 10), QColor(Qt::yellow));
-    QCOMPARE(image.pixelColor(92, 5).alpha(), 0);
-}
-
-void tst_MvTimelinePlayheadWidget::hiddenPlayheadOrButtonIsNotDrawn()
-{
-    Fixture f;
-    f.presenter.addSplitButtonImage(MVWIDGETS::Normal, solid(Qt::green));
-    QCoreApplication::processEvents(); // the first on-screen paint, out of the way
-    f.overlay->playheadDraws = 0;
-    f.overlay->buttonDraws = 0;
-    render(f.overlay);
-    QCOMPARE(f.overlay->playheadDraws, 1);
-    QCOMPARE(f.overlay->buttonDraws, 1);
-    f.presenter.setSplitButtonVisible(false);
-    QImage image = render(f.overlay);
-    QCOMPARE(f.overlay->playheadDraws, 2);
-    QCOMPARE(f.overlay->buttonDraws, 1);
-    QCOMPARE(image.pixelColor(85, 84).alpha(), 0);
-    f.timeline.playhead()->setVisible(false);
-    render(f.overlay);
-    QCOMPARE(f.overlay->playheadDraws, 2);
+    QCOMPARE(mvColorsAt(f.overlay, { { 100, 150 } }), QStringLiteral("A"));
 }
 
 QTEST_MAIN(tst_MvTimelinePlayheadWidget)
