@@ -1,4 +1,3 @@
-#include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
 #include "Memory/MvMemoryTrack.h"
 #include "MvEditFixture.h"
@@ -47,101 +46,80 @@ class tst_MvTimelinePresenterClipMove : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void horizontalMove_data();
-    void horizontalMove();
-    void verticalMove_data();
-    void verticalMove();
+    void move_data();
+    void move();
     void firstSelectedClipAndItsStart();
-    void fitTimelineShowsTheWholeTimeline();
     void commandsWithoutATimelineRefuse();
 };
 
-void tst_MvTimelinePresenterClipMove::horizontalMove_data()
+void tst_MvTimelinePresenterClipMove::move_data()
 {
-    // The selected clip's motion-tracking follower starts 20 frames earlier, at `earliest`.
-    QTest::addColumn<qint64>("earliest");
-    QTest::addColumn<qint64>("offset");
-    QTest::addColumn<qint64>("moved"); // 0 when refused
-    QTest::newRow("right") << qint64(30) << qint64(10) << qint64(10);
-    QTest::newRow("left past frame 0: the earliest lands on 0") << qint64(30) << qint64(-50) << qint64(-30);
-    QTest::newRow("left at frame 0 already") << qint64(0) << qint64(-50) << qint64(0);
-    QTest::newRow("no offset") << qint64(30) << qint64(0) << qint64(0);
-}
-
-void tst_MvTimelinePresenterClipMove::horizontalMove()
-{
-    QFETCH(qint64, earliest);
-    QFETCH(qint64, offset);
-    QFETCH(qint64, moved);
-
-    Fixture f;
-    MvMemoryClip* leader = f.clip(0, earliest + 20, earliest + 69);
-    MvMemoryClip* follower = f.clip(1, earliest, earliest + 49);
-    leader->setMotionTrackFollower(follower);
-    f.select({ leader });
-    const QString before = f.snapshot();
-    f.journal.clear();
-
-    QCOMPARE(f.presenter->moveClipsHorizontal(offset), moved != 0);
-
-    QCOMPARE(mvCheckRecord(f.log, QStringLiteral("horizontal move clips, frameOffset %1").arg(offset), 4,
-                 QStringLiteral("MvTimelinePresenterPrivate::moveClipsHorizontal")),
-        QString());
-    QCOMPARE(f.journalText(), moved != 0 ? MoveJournal : QString());
-    QVERIFY(f.presenter->canUpdateAction());
-    QCOMPARE(QList<qint64>({ leader->start(), follower->start() }),
-        QList<qint64>({ earliest + 20 + moved, earliest + moved }));
-    // The selection as it was: the follower is not added.
-    QCOMPARE(f.timeline.selection()->selectedClips(), QList<IMvClip*>({ leader }));
-    QCOMPARE(f.undoOneStep(before), moved != 0 ? QStringLiteral("move clips") : QString());
-}
-
-void tst_MvTimelinePresenterClipMove::verticalMove_data()
-{
+    // Clips of 50 frames as "kind row@start"; a follower tracks the first clip and is not selected.
     QTest::addColumn<QString>("setup");
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<QList<int>>("rows"); // of the picture clip and the audio clip after the move, -1: none
+    QTest::addColumn<QString>("move"); // 'h' and a frame offset, or 'v' and a row offset
+    QTest::addColumn<QString>("after"); // row@start of each clip; as set up when refused
 
-    QTest::newRow("picture first: audio opposite") << "picture0,audio3" << 1 << QList<int>({ 1, 2 });
-    QTest::newRow("audio first: picture opposite") << "audio2,picture1" << 1 << QList<int>({ 0, 3 });
-    QTest::newRow("audio stays below the last row") << "audio3,picture1" << 1 << QList<int>({ 0, 3 });
-    QTest::newRow("picture above the first row") << "picture0" << -1 << QList<int>({ 0, -1 });
-    QTest::newRow("locked target row") << "picture0,lock1" << 1 << QList<int>({ 0, -1 });
+    const QString following = QStringLiteral("picture0@50,follower1@30");
+    QTest::newRow("right") << following << "h10" << "0@60 1@40";
+    QTest::newRow("left past frame 0: the earliest lands on 0") << following << "h-50" << "0@20 1@0";
+    QTest::newRow("left at frame 0 already") << "picture0@20,follower1@0" << "h-50" << "0@20 1@0";
+    QTest::newRow("no offset") << following << "h0" << "0@50 1@30";
+    QTest::newRow("picture first: audio opposite") << "picture0@0,audio3@0" << "v1" << "1@0 2@0";
+    QTest::newRow("audio first: picture opposite") << "audio2@0,picture1@0" << "v1" << "3@0 0@0";
+    QTest::newRow("audio stays below the last row") << "audio3@0,picture1@0" << "v1" << "3@0 0@0";
+    QTest::newRow("picture above the first row") << "picture0@0" << "v-1" << "0@0";
+    QTest::newRow("locked target row") << "picture0@0,lock1" << "v1" << "0@0";
 }
 
-void tst_MvTimelinePresenterClipMove::verticalMove()
+void tst_MvTimelinePresenterClipMove::move()
 {
     QFETCH(QString, setup);
-    QFETCH(int, offset);
-    QFETCH(QList<int>, rows);
+    QFETCH(QString, move);
+    QFETCH(QString, after);
 
     Fixture f;
-    MvMemoryClip* picture = nullptr;
-    MvMemoryClip* audio = nullptr;
+    QList<MvMemoryClip*> clips;
     QList<IMvClip*> selected;
     for (const QString& item : setup.split(QLatin1Char(','))) {
-        const int row = item.right(1).toInt();
-        if (item.startsWith(QLatin1String("picture")))
-            selected.append(picture = f.clip(row, 0, 99));
-        else if (item.startsWith(QLatin1String("audio")))
-            selected.append(audio = f.clip(row, 0, 99, ClipType_Audio));
-        else
+        const int row = item.section(QLatin1Char('@'), 0, 0).right(1).toInt();
+        const qint64 start = item.section(QLatin1Char('@'), 1).toLongLong();
+        if (item.startsWith(QLatin1String("lock"))) {
             f.timeline.trackAt(row)->setLocked(true);
+            continue;
+        }
+        const MvClipType type = item.startsWith(QLatin1String("audio")) ? ClipType_Audio : ClipType_Video;
+        clips.append(f.clip(row, start, start + 49, type));
+        if (item.startsWith(QLatin1String("follower")))
+            clips.first()->setMotionTrackFollower(clips.last());
+        else
+            selected.append(clips.last());
     }
+    const auto positions = [&clips] {
+        QStringList text;
+        for (const MvMemoryClip* clip : clips)
+            text.append(QStringLiteral("%1@%2").arg(clip->trackIndex()).arg(clip->start()));
+        return text.join(QLatin1Char(' '));
+    };
+    const bool moves = positions() != after;
     f.select(selected);
     const QString before = f.snapshot();
-    const bool moved = picture->trackIndex() != rows.at(0) || (audio && audio->trackIndex() != rows.at(1));
     f.journal.clear();
 
-    QCOMPARE(f.presenter->moveClipsVertical(offset), moved);
+    const bool horizontal = move.startsWith(QLatin1Char('h'));
+    const int offset = move.mid(1).toInt();
+    QCOMPARE(horizontal ? f.presenter->moveClipsHorizontal(offset) : f.presenter->moveClipsVertical(offset), moves);
 
-    QCOMPARE(mvCheckRecord(f.log, QStringLiteral("vertical move clips, trackIndexOffset %1").arg(offset), 4,
-                 QStringLiteral("MvTimelinePresenterPrivate::moveClipsVertical")),
-        QString());
-    QCOMPARE(f.journalText(), moved ? MoveJournal : QString());
-    QCOMPARE(QList<int>({ picture->trackIndex(), audio ? audio->trackIndex() : -1 }), rows);
+    const QString record = horizontal ? QStringLiteral("horizontal move clips, frameOffset %1")
+                                      : QStringLiteral("vertical move clips, trackIndexOffset %1");
+    const QString function = QStringLiteral("MvTimelinePresenterPrivate::moveClips%1")
+                                 .arg(horizontal ? QLatin1String("Horizontal") : QLatin1String("Vertical"));
+    QCOMPARE(mvCheckRecord(f.log, record.arg(offset), 4, function), QString());
+    QCOMPARE(f.journalText(), moves ? MoveJournal : QString());
+    QVERIFY(f.presenter->canUpdateAction());
+    QCOMPARE(positions(), after);
+    // The selection as it was: followers are not added.
     QCOMPARE(f.timeline.selection()->selectedClips(), selected);
-    QCOMPARE(f.undoOneStep(before), moved ? QStringLiteral("move clips") : QString());
+    QCOMPARE(f.undoOneStep(before), moves ? QStringLiteral("move clips") : QString());
 }
 
 void tst_MvTimelinePresenterClipMove::firstSelectedClipAndItsStart()
@@ -154,31 +132,14 @@ void tst_MvTimelinePresenterClipMove::firstSelectedClipAndItsStart()
         f.presenter->checkAndMoveToSelectedClipStartPos();
         return f.playhead();
     };
-    QCOMPARE(moveFrom(20), qint64(20));
+    // A transition first: no clip to go to.
     f.timeline.selection()->selectItems({ transition, clip });
-    QCOMPARE(f.presenter->getFirstSelectedClip(), nullptr);
     QCOMPARE(moveFrom(20), qint64(20));
 
     f.timeline.selection()->selectItems({ clip, transition });
-    QCOMPARE(f.presenter->getFirstSelectedClip(), static_cast<IMvClip*>(clip));
     QCOMPARE(moveFrom(150), qint64(150));
     // Half-open: the last frame, like any frame outside, goes back to the start.
     QCOMPARE(moveFrom(199), qint64(100));
-    QCOMPARE(moveFrom(250), qint64(100));
-}
-
-void tst_MvTimelinePresenterClipMove::fitTimelineShowsTheWholeTimeline()
-{
-    Fixture f;
-    f.clip(0, 0, 999);
-    IMvTimelineRuler* ruler = f.timeline.ruler();
-    ruler->setViewWidth(800);
-    ruler->setVisualRange(100, 200);
-    f.presenter->fitTimeline();
-    qint64 start = -1;
-    qint64 end = -1;
-    ruler->visualRange(&start, &end);
-    QCOMPARE(QList<qint64>({ start, end }), QList<qint64>({ 0, f.timeline.duration() }));
 }
 
 void tst_MvTimelinePresenterClipMove::commandsWithoutATimelineRefuse()
@@ -193,19 +154,14 @@ void tst_MvTimelinePresenterClipMove::commandsWithoutATimelineRefuse()
     QVERIFY(!presenter.canTrimToPlayhead());
     QVERIFY(!presenter.trimStartToPlayhead());
     QVERIFY(!presenter.trimEndToPlayhead());
-    QVERIFY(!presenter.deleteSelectedClips());
     QVERIFY(!presenter.rippleDeleteSelectedClips());
-    QVERIFY(!presenter.deleteItems(false));
+    QVERIFY(!presenter.deleteItems(false)); // down to the plain delete
     QVERIFY(!presenter.canDeleteItems());
     QVERIFY(!presenter.moveClipsHorizontal(5));
     QVERIFY(!presenter.moveClipsVertical(1));
-    QCOMPARE(presenter.getFirstSelectedClip(), nullptr);
     presenter.checkAndMoveToSelectedClipStartPos();
-    presenter.fitTimeline();
     presenter.addMarker(Qt::red);
-    QVERIFY(!presenter.removeSelectedMarker());
     presenter.rotate90CW();
-    QVERIFY(!presenter.removeSelectedFreezeFrame());
     QVERIFY(!presenter.removeSelectedSmartKeyingNode());
     // Only the pauses of the trims reach the scene.
     QCOMPARE(scene.ids(), QList<int>({ MessageId::PausePlayer, MessageId::PausePlayer }));
