@@ -54,27 +54,29 @@ private Q_SLOTS:
 
 void tst_MvTimelinePresenterClipMove::move_data()
 {
-    // Clips of 50 frames as "kind row@start"; a follower tracks the first clip and is not selected.
+    // Clips of 50 frames as kind, row and @start frame; a follower tracks the first clip and is not selected.
     QTest::addColumn<QString>("setup");
-    QTest::addColumn<QString>("move"); // 'h' and a frame offset, or 'v' and a row offset
+    QTest::addColumn<char>("axis"); // 'h' to move by frames, 'v' by rows
+    QTest::addColumn<int>("offset");
     QTest::addColumn<QString>("after"); // row@start of each clip; as set up when refused
 
     const QString following = QStringLiteral("picture0@50,follower1@30");
-    QTest::newRow("right") << following << "h10" << "0@60 1@40";
-    QTest::newRow("left past frame 0: the earliest lands on 0") << following << "h-50" << "0@20 1@0";
-    QTest::newRow("left at frame 0 already") << "picture0@20,follower1@0" << "h-50" << "0@20 1@0";
-    QTest::newRow("no offset") << following << "h0" << "0@50 1@30";
-    QTest::newRow("picture first: audio opposite") << "picture0@0,audio3@0" << "v1" << "1@0 2@0";
-    QTest::newRow("audio first: picture opposite") << "audio2@0,picture1@0" << "v1" << "3@0 0@0";
-    QTest::newRow("audio stays below the last row") << "audio3@0,picture1@0" << "v1" << "3@0 0@0";
-    QTest::newRow("picture above the first row") << "picture0@0" << "v-1" << "0@0";
-    QTest::newRow("locked target row") << "picture0@0,lock1" << "v1" << "0@0";
+    QTest::newRow("right") << following << 'h' << 10 << "0@60 1@40";
+    QTest::newRow("left past frame 0: the earliest lands on 0") << following << 'h' << -50 << "0@20 1@0";
+    QTest::newRow("left at frame 0 already") << "picture0@20,follower1@0" << 'h' << -50 << "0@20 1@0";
+    QTest::newRow("no offset") << following << 'h' << 0 << "0@50 1@30";
+    QTest::newRow("picture first: audio opposite") << "picture0@0,audio3@0" << 'v' << 1 << "1@0 2@0";
+    QTest::newRow("audio first: picture opposite") << "audio2@0,picture1@0" << 'v' << 1 << "3@0 0@0";
+    QTest::newRow("audio stays below the last row") << "audio3@0,picture1@0" << 'v' << 1 << "3@0 0@0";
+    QTest::newRow("picture above the first row") << "picture0@0" << 'v' << -1 << "0@0";
+    QTest::newRow("locked target row") << "picture0@0,lock1" << 'v' << 1 << "0@0";
 }
 
 void tst_MvTimelinePresenterClipMove::move()
 {
     QFETCH(QString, setup);
-    QFETCH(QString, move);
+    QFETCH(char, axis);
+    QFETCH(int, offset);
     QFETCH(QString, after);
 
     Fixture f;
@@ -105,8 +107,7 @@ void tst_MvTimelinePresenterClipMove::move()
     const QString before = f.snapshot();
     f.journal.clear();
 
-    const bool horizontal = move.startsWith(QLatin1Char('h'));
-    const int offset = move.mid(1).toInt();
+    const bool horizontal = axis == 'h';
     QCOMPARE(horizontal ? f.presenter->moveClipsHorizontal(offset) : f.presenter->moveClipsVertical(offset), moves);
 
     const QString record = horizontal ? QStringLiteral("horizontal move clips, frameOffset %1")

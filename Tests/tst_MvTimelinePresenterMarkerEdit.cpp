@@ -1,4 +1,3 @@
-#include "IMvTimelinePlayhead.h"
 #include "Memory/MvMemoryMarker.h"
 #include "MvEditFixture.h"
 #include "MvMarkerEditColor.h"
@@ -8,12 +7,12 @@
 #include "MvTextEdit.h"
 
 #include <QApplication>
-#include <QMainWindow>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 
 #include <functional>
+#include <optional>
 
 using namespace MVVBLMODEL;
 using Action = std::function<void(MvMarkerEditDialog*)>;
@@ -33,15 +32,6 @@ void click(QWidget* widget)
 
 const Action clickOk = [](MvMarkerEditDialog* dialog) { click(dialog->okButton()); };
 
-// What the dialog offered when it opened; opened stays false when editMarker opened none.
-struct Shown
-{
-    bool opened = false;
-    MvMarkerParam param;
-    QList<QColor> colors;
-    QWidget* parent = nullptr;
-};
-
 // A clip over frames 100..200 between two others, on the first of the fixture's tracks.
 struct Project : MvEditFixture<>
 {
@@ -49,16 +39,16 @@ struct Project : MvEditFixture<>
     MvMemoryClip* middle = clip(0, 100, 200);
     MvMemoryClip* last = clip(0, 201, 999);
 
-    // Runs editMarker; the action works the modal dialog once it is up.
-    Shown edit(const Action& action)
+    // Runs editMarker; the action works the modal dialog once it is up. Gives what the dialog showed
+    // when it opened, nothing when editMarker opened none.
+    std::optional<MvMarkerParam> edit(const Action& action)
     {
-        Shown shown;
+        std::optional<MvMarkerParam> shown;
         QTimer::singleShot(0, [&shown, &action]() {
-            auto* dialog = qobject_cast<MvMarkerEditDialog*>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            shown = { true, dialog->markerParam(), dialog->panel()->colorRow()->colors(), dialog->parentWidget() };
-            action(dialog);
+            if (auto* dialog = qobject_cast<MvMarkerEditDialog*>(QApplication::activeModalWidget())) {
+                shown = dialog->markerParam();
+                action(dialog);
+            }
         });
         presenter->editMarker();
         QCoreApplication::processEvents(); // lets the timer find no dialog when none opened
@@ -84,8 +74,7 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone_data()
     QTest::addColumn<QColor>("color");
     QTest::addColumn<Action>("action");
     QTest::addColumn<QString>("after"); // name, comment and colour of the marker at 300
-    QTest::addColumn<int>("steps");
-    const QString kept = QStringLiteral("Verse slow ") + palette(2).name();
+    QTest::addColumn<QString>("step"); // the undo step made, if any
     QTest::newRow("OK applies every field") << palette(2) << Action([](MvMarkerEditDialog* dialog) {
         MvMarkerEditPanel* panel = dialog->panel();
         panel->nameEdit()->selectAll();
@@ -95,17 +84,17 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone_data()
         click(panel->colorRow()->findChild<QWidget*>(QStringLiteral("colorCell3")));
         click(dialog->okButton());
     }) << QStringLiteral("Chorus louder ") + palette(3).name()
-                                            << 1;
+                                            << QStringLiteral("edit marker");
     QTest::newRow("DELETE removes it") << palette(2)
                                        << Action([](MvMarkerEditDialog* dialog) { click(dialog->deleteButton()); })
-                                       << QString() << 1;
+                                       << QString() << QStringLiteral("edit marker");
     QTest::newRow("closing drops the edits") << palette(2) << Action([](MvMarkerEditDialog* dialog) {
         QTest::keyClicks(dialog->panel()->nameEdit(), QStringLiteral(" edited"));
         click(dialog->closeButton());
-    }) << kept << 0;
-    QTest::newRow("OK without changes") << palette(2) << clickOk << kept << 0;
-    QTest::newRow("OK keeps a colour off the palette")
-        << QColor(1, 2, 3) << clickOk << QStringLiteral("Verse slow #010203") << 0;
+    }) << QStringLiteral("Verse slow ") + palette(2).name()
+                                             << QString();
+    QTest::newRow("OK without changes keeps a colour off the palette")
+        << QColor(1, 2, 3) << clickOk << QStringLiteral("Verse slow #010203") << QString();
 }
 
 // The dialog shows the marker under the playhead, after the player was paused.
@@ -114,36 +103,24 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone()
     QFETCH(QColor, color);
     QFETCH(Action, action);
     QFETCH(QString, after);
-    QFETCH(int, steps);
+    QFETCH(QString, step);
     Project p;
     p.timeline.timelineMarkerList()
         ->addNamedMarker(300, color, QStringLiteral("Verse"))
         ->setComment(QStringLiteral("slow"));
     p.timeline.timelineMarkerList()->addNamedMarker(310, palette(0), QStringLiteral("Other"));
-    p.timeline.playhead()->setCurrentFrame(300);
-    IMvUndoRedoService* undo = p.timeline.undoRedoService();
-    const QString before = p.timeline.stateText();
-    const int undoCount = undo->undoCount();
-    const Shown shown = p.edit(action);
-    const MvMarkerParam& param = shown.param;
+    p.setPlayhead(300);
+    const QString before = p.snapshot();
+    const MvMarkerParam param = p.edit(action).value_or(MvMarkerParam());
     QCOMPARE(QStringLiteral("%1 %2 %3").arg(param.name, param.comment, param.time),
         QStringLiteral("Verse slow 00:00:10:00"));
     QCOMPARE(param.colorIndex, MvMarkerPresenter::markerPaletteIndex(color));
-    QCOMPARE(shown.colors, MvMarkerPresenter::markerPalette());
     QCOMPARE(p.scene.ids(), QList<int>({ 7012 }));
     IMvMarker* marker = p.timeline.timelineMarkers()->markerAt(300);
     QCOMPARE(
         marker ? QStringLiteral("%1 %2 %3").arg(marker->name(), marker->comment(), marker->color().name()) : QString(),
         after);
-    QCOMPARE(undo->undoCount(), undoCount + steps);
-    QVERIFY(!undo->isStepOpen());
-    QCOMPARE(p.timeline.checkInvariants(), QString());
-    if (steps == 1) {
-        QCOMPARE(undo->undoName(), QStringLiteral("edit marker"));
-        QCOMPARE(undo->undoSource(), QStringLiteral("MvTimelinePresenterPrivate::editMarker"));
-        QVERIFY(undo->undo());
-    }
-    QCOMPARE(p.timeline.stateText(), before);
+    QCOMPARE(p.undoOneStep(before), step);
 }
 
 void tst_MvTimelinePresenterMarkerEdit::listIsChosenLikeAddMarker_data()
@@ -151,17 +128,11 @@ void tst_MvTimelinePresenterMarkerEdit::listIsChosenLikeAddMarker_data()
     QTest::addColumn<QString>("selection");
     QTest::addColumn<qint64>("playhead");
     QTest::addColumn<QString>("edited"); // name and time of the marker edited; empty when none is
-    QTest::newRow("nothing selected") << QString() << qint64(150) << QStringLiteral("T 00:00:05:00");
-    QTest::newRow("clip selected, playhead on it")
-        << QStringLiteral("clip") << qint64(150) << QStringLiteral("C 00:00:05:00");
-    QTest::newRow("clip selected, on its last frame")
-        << QStringLiteral("clip") << qint64(200) << QStringLiteral("C 00:00:06:20");
-    QTest::newRow("clip selected, playhead after it")
-        << QStringLiteral("clip") << qint64(201) << QStringLiteral("T 00:00:06:21");
-    QTest::newRow("clip selected, timeline flag")
-        << QStringLiteral("clip+timeline") << qint64(150) << QStringLiteral("T 00:00:05:00");
-    QTest::newRow("two clips selected") << QStringLiteral("two") << qint64(150) << QStringLiteral("T 00:00:05:00");
-    QTest::newRow("transition selected, no list") << QStringLiteral("transition") << qint64(150) << QString();
+    QTest::newRow("clip selected, on its last frame") << "clip" << qint64(200) << "C 00:00:06:20";
+    QTest::newRow("clip selected, playhead after it") << "clip" << qint64(201) << "T 00:00:06:21";
+    QTest::newRow("clip selected, timeline flag") << "timeline flag" << qint64(150) << "T 00:00:05:00";
+    QTest::newRow("two clips selected") << "two" << qint64(150) << "T 00:00:05:00";
+    QTest::newRow("transition selected, no list") << "transition" << qint64(150) << "";
 }
 
 // A timeline marker "T" and, on the clip, a clip marker "C" stand under the playhead. The time
@@ -171,27 +142,23 @@ void tst_MvTimelinePresenterMarkerEdit::listIsChosenLikeAddMarker()
     QFETCH(QString, selection);
     QFETCH(qint64, playhead);
     QFETCH(QString, edited);
-    QMainWindow window;
-    window.show();
     Project p;
     p.timeline.timelineMarkerList()->addNamedMarker(playhead, palette(0), QStringLiteral("T"));
     auto* clipMarkers = static_cast<MvMemoryMarkerList*>(p.middle->clipMarkers());
     if (playhead <= 200)
         clipMarkers->addNamedMarker(playhead - 100, palette(1), QStringLiteral("C"));
     IMvSelection* select = p.timeline.selection();
-    if (selection.startsWith(QLatin1String("clip")))
-        select->select({ p.middle });
-    select->setTimelineSelected(selection == QLatin1String("clip+timeline"));
-    if (selection == QLatin1String("two"))
-        select->select({ p.middle, p.first });
     if (selection == QLatin1String("transition"))
         select->selectItems({ p.timeline.addTransition(p.middle, IMvTransition::AtEnd, 10, QStringLiteral("fade")) });
-    p.timeline.playhead()->setCurrentFrame(playhead);
-    const Shown shown = p.edit(clickOk);
-    QCOMPARE(shown.opened ? shown.param.name + QLatin1Char(' ') + shown.param.time : QString(), edited);
-    QCOMPARE(shown.parent, shown.opened ? &window : nullptr);
-    QCOMPARE(p.scene.ids().isEmpty(), !shown.opened); // no pause either
-    QCOMPARE(p.log.find(QStringLiteral("no marker at playhead")).size(), shown.opened ? 0 : 1);
+    else
+        select->select(
+            selection == QLatin1String("two") ? QList<IMvClip*> { p.middle, p.first } : QList<IMvClip*> { p.middle });
+    select->setTimelineSelected(selection == QLatin1String("timeline flag"));
+    p.setPlayhead(playhead);
+    const std::optional<MvMarkerParam> shown = p.edit(clickOk);
+    QCOMPARE(shown ? shown->name + QLatin1Char(' ') + shown->time : QString(), edited);
+    QCOMPARE(p.scene.ids().isEmpty(), !shown); // no pause either
+    QCOMPARE(p.log.find(QStringLiteral("no marker at playhead")).size(), shown ? 0 : 1);
 }
 
 void tst_MvTimelinePresenterMarkerEdit::withoutATimelineNothingOpens()
