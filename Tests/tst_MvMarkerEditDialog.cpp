@@ -158,7 +158,6 @@ void tst_MvMarkerEditDialog::swatchRowLaysOutSelectsAndFramesTheSelection()
     row.setGeometry(0, 0, 250, 16);
     empty.setGeometry(0, 20, 250, 16);
     window.show();
-    QCOMPARE(row.cellRect(2), QRect(48, 0, 16, 16));
     QTest::mouseClick(&row, Qt::LeftButton, Qt::NoModifier, QPoint(30, 8));
     QCOMPARE(row.selectedIndex(), 1);
     QTest::mouseClick(&row, Qt::LeftButton, Qt::NoModifier, QPoint(20, 8)); // between two cells

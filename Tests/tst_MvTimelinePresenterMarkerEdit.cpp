@@ -108,7 +108,6 @@ void tst_MvTimelinePresenterMarkerEdit::outcomeIsOneUndoStepOrNone()
     p.timeline.timelineMarkerList()
         ->addNamedMarker(300, color, QStringLiteral("Verse"))
         ->setComment(QStringLiteral("slow"));
-    p.timeline.timelineMarkerList()->addNamedMarker(310, palette(0), QStringLiteral("Other"));
     p.setPlayhead(300);
     const QString before = p.snapshot();
     const MvMarkerParam param = p.edit(action).value_or(MvMarkerParam());

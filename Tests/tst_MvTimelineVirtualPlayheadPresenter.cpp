@@ -63,12 +63,10 @@ void tst_MvTimelineVirtualPlayheadPresenter::createdByTheTimelinePresenter()
     const int observers = f.timeline.playheadImpl()->observerCount();
     f.presenter->initVirtualPlayheadPresenter();
     QPointer<MvTimelineVirtualPlayheadPresenter> first = f.presenter->virtualPlayheadPresenter();
-    first->open();
-    QVERIFY(f.presenter->isOpenVirtualPlayhead());
 
     // A new one replaces the stored one; the earlier one lives on as a child until it goes.
     f.presenter->initVirtualPlayheadPresenter();
-    QVERIFY(first && !f.presenter->isOpenVirtualPlayhead());
+    QVERIFY(first && f.presenter->virtualPlayheadPresenter() != first);
     delete first;
     QCOMPARE(f.timeline.playheadImpl()->observerCount(), observers + 1);
     f.presenter.reset();
@@ -100,32 +98,31 @@ void tst_MvTimelineVirtualPlayheadPresenter::requests_data()
 {
     // A request to show or hide, a play state or a playhead change, to the open (or closed) virtual playhead.
     QTest::addColumn<QString>("request");
-    QTest::addColumn<bool>("playing");
     QTest::addColumn<bool>("open");
     QTest::addColumn<bool>("shownBefore");
     QTest::addColumn<QString>("journal");
     QTest::addColumn<bool>("visibleAfter");
 
     // While playback runs a request to show is dropped, and a shown virtual playhead is hidden.
-    QTest::newRow("playing, hidden, show") << "show" << true << true << false << "" << false;
-    QTest::newRow("playing, shown, show") << "show" << true << true << true << "visibleChanged seek 40" << false;
-    QTest::newRow("shown, show: signals again") << "show" << false << true << true << "visibleChanged" << true;
-    QTest::newRow("stopped shows") << "state 0" << false << true << false << "visibleChanged" << true;
-    QTest::newRow("playing changes nothing") << "state 1" << false << true << true << "" << true;
+    QTest::newRow("hidden, show while playing") << "show while playing" << true << false << "" << false;
+    QTest::newRow("shown, show while playing")
+        << "show while playing" << true << true << "visibleChanged seek 40" << false;
+    QTest::newRow("shown, show: signals again") << "show" << true << true << "visibleChanged" << true;
+    QTest::newRow("stopped shows") << "state 0" << true << false << "visibleChanged" << true;
+    QTest::newRow("playing changes nothing") << "state 1" << true << true << "" << true;
     QTest::newRow("finished hides, seeks twice")
-        << "state 3" << false << true << true << "visibleChanged seek 40 seek 40" << false;
-    QTest::newRow("closed: ignored") << "state 0" << false << false << false << "" << false;
+        << "state 3" << true << true << "visibleChanged seek 40 seek 40" << false;
+    QTest::newRow("closed: ignored") << "state 0" << false << false << "" << false;
     // A playhead move (event kind 2) hides it and seeks back; other kinds do not.
-    QTest::newRow("moved, shown") << "move" << false << true << true << "visibleChanged seek 77" << false;
-    QTest::newRow("disabled, shown") << "disable" << false << true << true << "" << true;
+    QTest::newRow("moved, shown") << "move" << true << true << "visibleChanged seek 77" << false;
+    QTest::newRow("disabled, shown") << "disable" << true << true << "" << true;
     // Where the timeline no longer allows it: back to the real playhead; the split button stays hidden.
-    QTest::newRow("not allowed: closes") << "disallow" << false << true << true << "seek 40 enableChanged" << false;
+    QTest::newRow("not allowed: closes") << "disallow" << true << true << "seek 40 enableChanged" << false;
 }
 
 void tst_MvTimelineVirtualPlayheadPresenter::requests()
 {
     QFETCH(QString, request);
-    QFETCH(bool, playing);
     QFETCH(bool, open);
     QFETCH(bool, shownBefore);
     QFETCH(QString, journal);
@@ -136,7 +133,7 @@ void tst_MvTimelineVirtualPlayheadPresenter::requests()
     f.vp->setVisible(shownBefore);
     if (!open)
         f.vp->close();
-    f.scene.answerWith(MessageId::IsPlayerPlaying, playing);
+    f.scene.answerWith(MessageId::IsPlayerPlaying, request.endsWith(QLatin1String("while playing")));
     f.reset();
 
     if (request.startsWith(QLatin1String("state")))
@@ -148,7 +145,7 @@ void tst_MvTimelineVirtualPlayheadPresenter::requests()
     else if (request == QLatin1String("disallow"))
         f.timeline.setVirtualPlayheadAllowed(false);
     else
-        f.vp->setVisible(request == QLatin1String("show"));
+        f.vp->setVisible(request.startsWith(QLatin1String("show")));
     f.vp->updateEnable();
 
     QCOMPARE(f.vp->visible(), visibleAfter);
