@@ -47,7 +47,6 @@ void tst_MvTimelinePresenterClipEdit::split_data()
     QTest::newRow("nothing at the frame") << "timeline" << qint64(250) << none << false;
     QTest::newRow("a list, at the frame given") << "list" << qint64(100) << none << true;
     QTest::newRow("an empty list") << "empty" << qint64(100) << none << false;
-    QTest::newRow("no answer declines") << "grouped" << qint64(100) << none << false;
     QTest::newRow("proceed false declines")
         << "grouped" << qint64(100) << QVariant(QVariantList { false, true }) << false;
     QTest::newRow("proceed, ungroup") << "grouped" << qint64(100) << QVariant(QVariantList { true, true }) << true;
