@@ -100,7 +100,7 @@ bool MvTimelinePresenterPrivate::splitClips(qint64 frame, QList<IMvClip*> clips,
     }
     if (select) {
         MV_PRESENTER_LOG(MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips",
-            QStringLiteral("bug:p7_5312 selected split clips,clip count = %1").arg(newClips.size()));
+            QString::asprintf("bug:p7_5312 selected split clips,clip count = %d", int(newClips.size())));
         if (timeline->selection())
             timeline->selection()->select(newClips);
         MV_PRESENTER_LOG(
@@ -333,7 +333,7 @@ bool MvTimelinePresenterPrivate::moveWithActionsHeld(
 bool MvTimelinePresenterPrivate::moveClipsHorizontal(qint64 frameOffset)
 {
     MV_PRESENTER_LOG(MvBaseLog::Note, "MvTimelinePresenterPrivate::moveClipsHorizontal",
-        QStringLiteral("horizontal move clips, frameOffset %1").arg(frameOffset));
+        QString::asprintf("horizontal move clips, frameOffset %d", int(frameOffset)));
     if (frameOffset == 0 || !timeline)
         return false;
     const QList<IMvClip*> selected = selectedClips();
@@ -360,7 +360,7 @@ bool MvTimelinePresenterPrivate::moveClipsHorizontal(qint64 frameOffset)
 bool MvTimelinePresenterPrivate::moveClipsVertical(int trackIndexOffset)
 {
     MV_PRESENTER_LOG(MvBaseLog::Note, "MvTimelinePresenterPrivate::moveClipsVertical",
-        QStringLiteral("vertical move clips, trackIndexOffset %1").arg(trackIndexOffset));
+        QString::asprintf("vertical move clips, trackIndexOffset %d", trackIndexOffset));
     if (trackIndexOffset == 0 || !timeline)
         return false;
     const QList<IMvClip*> selected = selectedClips();

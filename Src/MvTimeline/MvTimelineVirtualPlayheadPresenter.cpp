@@ -82,7 +82,7 @@ void MvTimelineVirtualPlayheadPresenterPrivate::applyVisible(bool visible)
 {
     Q_Q(MvTimelineVirtualPlayheadPresenter);
     MV_VIRTUAL_PLAYHEAD_LOG(MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenterPrivate::setVisible",
-        QStringLiteral("Set Virtual Playhead Visible = %1").arg(visible ? 1 : 0));
+        QString::asprintf("Set Virtual Playhead Visible = %d", visible ? 1 : 0));
     shown = visible;
     Q_EMIT q->sigVisibleChanged();
     if (!visible)
