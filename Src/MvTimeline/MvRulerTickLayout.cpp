@@ -1,12 +1,18 @@
 #include "MvRulerTickLayout_p.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace MvRulerTickLayout {
 
 int labelEvery(int labelWidth, double spacing)
 {
     if (!(spacing > 0.0))
         return 5;
-    return (1 - int(labelWidth / (spacing * -5.0))) * 5;
+    // 5 x (1 + floor(labelWidth / (5 x spacing))), capped so that a vanishing spacing cannot
+    // overflow an int: no view is wide enough for that many ticks anyway.
+    const double ticksBetweenLabels = std::floor(labelWidth / (5.0 * spacing));
+    return int((1.0 + std::min(ticksBetweenLabels, 1.0e8)) * 5.0);
 }
 
 void layout(const MvRulerLayoutInput& input, MvRulerLayout* out)
