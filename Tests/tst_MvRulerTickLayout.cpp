@@ -77,6 +77,8 @@ void tst_MvRulerTickLayout::labelsGoOnMajorsAndKeepAFivePixelGap()
     QCOMPARE(MvRulerTickLayout::labelEvery(40, 10.0), 5);
     QCOMPARE(MvRulerTickLayout::labelEvery(50, 10.0), 10);
     QCOMPARE(MvRulerTickLayout::labelEvery(66, 1.0), 70);
+    // A vanishing spacing asks for labels so rarely that the count is capped instead of overflowing.
+    QCOMPARE(MvRulerTickLayout::labelEvery(66, 1e-12), 500000005);
     // 48 wide every 50 px leaves 2 px: every other label goes, its major tick stays.
     const MvRulerLayout layout = layOut(0, 10.0, 1, 300, 48);
     QCOMPARE(layout.labelEvery, 5);
