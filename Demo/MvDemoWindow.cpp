@@ -30,6 +30,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 MvDemoWindow::MvDemoWindow(bool interactive, QWidget* parent)
@@ -133,6 +134,10 @@ void MvDemoWindow::buildPlayhead(QWidget* column)
     // The overlay sees the ruler's and the track area's mouse events before they do.
     m_ruler->eventFilterMgr()->addFilter(m_playhead);
     m_trackArea->eventFilterMgr()->addFilter(m_playhead);
+    // A click on the split button selects the new pieces after the model's step has closed:
+    // the menus catch up once the click has been handled.
+    m_ruler->installEventFilter(this);
+    m_trackArea->installEventFilter(this);
     connect(m_playheadPresenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, m_player, &MvDemoPlayer::pause);
     if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
         shortcuts->setShortcutText(2001, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
@@ -141,6 +146,12 @@ void MvDemoWindow::buildPlayhead(QWidget* column)
 bool MvDemoWindow::eventFilter(QObject* watched, QEvent* event)
 {
     // The playhead overlay spans the ruler and the tracks, with its x = 0 on the ruler's.
+    if ((watched == m_ruler || watched == m_trackArea) && event->type() == QEvent::MouseButtonRelease) {
+        QTimer::singleShot(0, this, [this] {
+            m_trackArea->update();
+            refreshActions();
+        });
+    }
     if (watched == m_timelineColumn && event->type() == QEvent::Resize && m_playhead) {
         m_playhead->setGeometry(0, m_ruler->y(), m_timelineColumn->width(), m_timelineColumn->height() - m_ruler->y());
         m_playhead->raise();
