@@ -174,26 +174,26 @@ bool MvTimelinePresenterPrivate::groupAfterSplit(QList<IMvClip*> sourceClips, QL
     return true;
 }
 
-bool MvTimelinePresenterPrivate::trimStartToPlayhead()
+IMvClip* MvTimelinePresenterPrivate::trimTarget() const
 {
+    // Trims act on exactly one selected item, and only when that item is a clip.
     IMvSelection* selection = timeline ? timeline->selection() : nullptr;
     if (!selection || selection->count() != 1)
-        return false;
+        return nullptr;
     const QList<IMvClip*> clips = selection->selectedClips();
-    if (clips.isEmpty())
-        return false;
-    return timeline->trimStartToFrame(clips.first(), playheadFrame());
+    return clips.isEmpty() ? nullptr : clips.first();
+}
+
+bool MvTimelinePresenterPrivate::trimStartToPlayhead()
+{
+    IMvClip* clip = trimTarget();
+    return clip && timeline->trimStartToFrame(clip, playheadFrame());
 }
 
 bool MvTimelinePresenterPrivate::trimEndToPlayhead()
 {
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
-    if (!selection || selection->count() != 1)
-        return false;
-    const QList<IMvClip*> clips = selection->selectedClips();
-    if (clips.isEmpty())
-        return false;
-    return timeline->trimEndToFrame(clips.first(), playheadFrame());
+    IMvClip* clip = trimTarget();
+    return clip && timeline->trimEndToFrame(clip, playheadFrame());
 }
 
 bool MvTimelinePresenterPrivate::canTrimToPlayhead() const

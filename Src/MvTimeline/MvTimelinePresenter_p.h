@@ -52,6 +52,7 @@ public:
 
     qint64 playheadFrame() const;
     QList<IMvClip*> selectedClips() const;
+    IMvClip* trimTarget() const;
     // The selected clips together with the clips that follow them by motion tracking.
     QList<IMvClip*> withMotionFollowers(const QList<IMvClip*>& selected) const;
     // Runs a model move with the action refresh held back until the model has settled.
