@@ -140,7 +140,7 @@ void MvDemoWindow::buildPlayhead(QWidget* column)
     m_trackArea->installEventFilter(this);
     connect(m_playheadPresenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, m_player, &MvDemoPlayer::pause);
     if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
-        shortcuts->setShortcutText(2001, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
+        shortcuts->setShortcutText(MvCommandId::SplitClips, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
 }
 
 bool MvDemoWindow::eventFilter(QObject* watched, QEvent* event)
