@@ -7,7 +7,7 @@ function(mv_set_compile_options target)
         QT_NO_URL_CAST_FROM_STRING
         QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
     if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual)
         if(MV_WERROR)
             target_compile_options(${target} PRIVATE -Werror)
         endif()
