@@ -77,16 +77,6 @@ int MvWaitDialog::spokeCount()
     return kSpokeCount;
 }
 
-int MvWaitDialog::tickInterval()
-{
-    return kTickInterval;
-}
-
-QSize MvWaitDialog::indicatorSize()
-{
-    return QSize(kSide, kSide);
-}
-
 void MvWaitDialog::showEvent(QShowEvent* event)
 {
     Q_D(MvWaitDialog);

@@ -22,8 +22,6 @@ public:
     // The spoke drawn brightest; it moves on by one every tick while the dialog is shown.
     int currentSpoke() const;
     static int spokeCount();
-    static int tickInterval();
-    static QSize indicatorSize();
 
 protected:
     void showEvent(QShowEvent* event) override;
