@@ -11,7 +11,8 @@ constexpr int kToastBottomMargin = 24;
 }
 
 MvDemoToastHost::MvDemoToastHost(QWidget* window)
-    : QObject(window), m_window(window)
+    : QObject(window)
+    , m_window(window)
 {
     new MvCustomEventListener(this, QStringLiteral("ShowCustomToast"),
         [this](const MvCustomEventImp& event) { return showToastEvent(event); });

@@ -167,8 +167,7 @@ void tst_MvToast::showsTextAndIconOverTheWindow()
     Window w;
     w.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&w.window));
-    QPointer<MvToast> toast
-        = MvToast::creatToast(text, w.strip, withIcon ? flatPixmap(kIcon, 16) : QPixmap(), 24);
+    QPointer<MvToast> toast = MvToast::creatToast(text, w.strip, withIcon ? flatPixmap(kIcon, 16) : QPixmap(), 24);
     toast->showToast();
 
     const QImage image = renderOf(&w.window);

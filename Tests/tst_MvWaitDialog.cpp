@@ -133,7 +133,7 @@ void tst_MvWaitDialog::execEndsWhenDoneArrivesThroughTheEventLoop()
             dialog.done(0);
         });
     } else if (closer == QLatin1String("finished task")) {
-        QFuture<void> future = QtConcurrent::run([]() { });
+        QFuture<void> future = QtConcurrent::run([]() {});
         future.waitForFinished();
         watcher.setFuture(future);
         modalWhileWaiting = true; // nothing runs inside exec before the watcher closes it

@@ -57,9 +57,8 @@ void MvToastPrivate::init()
     fade->setEndValue(0.0);
     fade->setDuration(kFadeDuration);
     lifetime->addAnimation(fade);
-    QObject::connect(fade, &QVariantAnimation::valueChanged, q, [this](const QVariant& value) {
-        setOpacity(value.toReal());
-    });
+    QObject::connect(
+        fade, &QVariantAnimation::valueChanged, q, [this](const QVariant& value) { setOpacity(value.toReal()); });
     QObject::connect(lifetime, &QAbstractAnimation::finished, q, [q]() {
         q->hide();
         q->deleteLater();
@@ -147,8 +146,7 @@ void MvToastPrivate::setOpacity(qreal value)
     Q_EMIT q->opacityChanged(value);
 }
 
-MvToastLayout MvToastPrivate::layoutFor(
-    const QFontMetrics& metrics, const QString& text, QSize iconSize, int maxWidth)
+MvToastLayout MvToastPrivate::layoutFor(const QFontMetrics& metrics, const QString& text, QSize iconSize, int maxWidth)
 {
     const int iconRoom = iconSize.isEmpty() ? 0 : iconSize.width() + (text.isEmpty() ? 0 : kIconSpacing);
     const int textMax = std::clamp(maxWidth - 2 * kPaddingX - iconRoom, kMinTextWidth, kMaxTextWidth);

@@ -46,8 +46,8 @@ QList<MvWaitSpoke> MvWaitDialogPrivate::spokesFor(const QRectF& area, int curren
         const int behind = (current - i + kSpokeCount) % kSpokeCount;
         QColor color = ink;
         color.setAlpha(std::max(kFaintestAlpha, 255 - behind * 255 / kSpokeCount));
-        spokes.append({ QLineF(centre + direction * kInnerRadius * scale, centre + direction * kOuterRadius * scale),
-            color });
+        spokes.append(
+            { QLineF(centre + direction * kInnerRadius * scale, centre + direction * kOuterRadius * scale), color });
     }
     return spokes;
 }
