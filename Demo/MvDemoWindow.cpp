@@ -10,6 +10,7 @@
 #include "MvDemoPlayer.h"
 #include "MvDemoPresenter.h"
 #include "MvDemoScene.h"
+#include "MvDemoToastHost.h"
 #include "MvDemoTrackArea.h"
 #include "MvDemoTrackHeaders.h"
 #include "MvDemoRenderSimulator.h"
@@ -43,6 +44,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, QWidget* parent)
     m_scene->setDialogParent(this);
     m_scene->setInteractive(interactive);
     connect(m_scene, &MvDemoScene::journal, this, &MvDemoWindow::appendJournal);
+    new MvDemoToastHost(this);
 
     m_presenter = new MvDemoPresenter(this, m_timeline.data());
     m_presenter->setScene(m_scene);
