@@ -14,7 +14,7 @@ MvDemoToastHost::MvDemoToastHost(QWidget* window)
     : QObject(window)
     , m_window(window)
 {
-    new MvCustomEventListener(this, QStringLiteral("ShowCustomToast"),
+    new MvCustomEventListener(this, QLatin1String(MvEventName::ShowCustomToast),
         [this](const MvCustomEventImp& event) { return showToastEvent(event); });
 }
 

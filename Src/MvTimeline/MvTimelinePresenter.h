@@ -126,6 +126,9 @@ public:
     bool removeSelectedFreezeFrame();
     bool removeSelectedSmartKeyingNode();
 
+    // Raises a toast with an already translated text over the view (ShowCustomToast).
+    void showToast(QString text);
+
 Q_SIGNALS:
     void sigClipSelectedChanged();
     void sigClipReplaced();
@@ -140,6 +143,9 @@ protected:
     virtual MVVBLMODEL::MvTrackType getSelectedTrackType();
     virtual qint64 getDefaultFreezeFrameDuration();
     virtual int calcDetachAudioTrackIndex(IMvClip* clip);
+
+    // The two refusals of a compound clip: inserted into itself, or taken from another project.
+    void showTimelineNestToast(bool compoundItself);
 
     void stopMediaPlayer();
     void seekAfterPause();

@@ -71,6 +71,9 @@ public:
     // Marker editing (MvTimelinePresenterMarkerEdit.cpp).
     void editMarker();
 
+    // Toasts (MvTimelinePresenterToasts.cpp).
+    void showToast(const QString& text);
+
     // Tracks (MvTimelinePresenterTracks.cpp).
     void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);
     int calcDetachAudioTrackIndex(IMvClip* clip) const;

@@ -10,6 +10,14 @@
 
 #include <functional>
 
+// Names of the application-wide events the timeline raises or listens for.
+namespace MvEventName {
+constexpr const char* ShowCustomToast = "ShowCustomToast";
+constexpr const char* NotifyAddSharedClipsAssetsToProjectMedia = "NotifyAddSharedClipsAssetsToProjectMedia";
+constexpr const char* NotifySwtichPropertView = "NotifySwtichPropertView";
+constexpr const char* NotifyAdjustPropertyTimeLine = "NotifyAdjustPropertyTimeLine";
+}
+
 // One application-wide notification: a name and its values, in the order the sender gives them.
 class MVCORE_EXPORT MvCustomEventImp
 {
