@@ -95,6 +95,10 @@ public:
     void editMarker();
     void hidePropertyPanel();
     void checkHidePropertyPanel();
+    // Asks the host to show its property panel at a page: an MvDataMessage with the id
+    // MessageId::ShowPropertyPanelPage (9007) carrying the page as an int; -1 asks for the page that
+    // suits the current selection.
+    void showPropertyPanel(int page);
 
     void showEmptyClip(qint64 x, qint64 y, int width, int height);
     void hideEmptyClip();

@@ -13,6 +13,12 @@ void MvTimelinePresenter::hidePropertyPanel()
     sendMessageToScene(&message);
 }
 
+void MvTimelinePresenter::showPropertyPanel(int page)
+{
+    MvDataMessage message(MessageId::ShowPropertyPanelPage, page);
+    sendMessageToScene(&message);
+}
+
 void MvTimelinePresenter::checkHidePropertyPanel()
 {
     Q_D(MvTimelinePresenter);

@@ -104,6 +104,7 @@ constexpr int PausePlayerWithSync = 7036;      // bare id
 constexpr int Seek = 7040;                     // MvSeekMessage
 constexpr int SeekAfterPause = 7041;           // MvSeekAfterPauseMessage
 constexpr int HidePropertyPanel = 9006;        // MvMessage
+constexpr int ShowPropertyPanelPage = 9007;    // MvDataMessage carrying the page (int); -1: the selection's page
 constexpr int ShowAdvancedSubtitleEditor = 9017; // MvDataMessage {true, arg}
 constexpr int ShowAdvancedTextEditor = 9018;     // MvDataMessage {true, arg}
 constexpr int ShowAdvancedColor = 9019;          // MvDataMessage carrying true
