@@ -86,7 +86,7 @@ template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelineP
     // walked, oldest first ("split, move clips"), or the first thing that went wrong.
     QString walkUndo()
     {
-        if (m_kept.isEmpty() || m_kept.lastKey() != undoCount())
+        if (m_kept.isEmpty() || m_kept.lastKey() != undoCount() || m_kept.last() != withoutView(snapshot()))
             return QStringLiteral("the state after the last command was not kept");
         if (!m_walkProblem.isEmpty())
             return m_walkProblem;
