@@ -169,6 +169,7 @@ void tst_MvPureTimelineRulerWidget::wheelZoomsWithTheSchemeModifier_data()
     QTest::newRow("ctrl+shift is not ctrl") << 0 << (ctrl | int(Qt::ShiftModifier)) << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("scheme 2 ignores ctrl") << 2 << ctrl << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("scheme 2 alt is horizontal") << 2 << int(Qt::AltModifier) << QPoint() << QPoint(120, 0) << -15;
+    QTest::newRow("horizontal half rounds up") << 2 << int(Qt::AltModifier) << QPoint() << QPoint(20, 0) << -3;
 }
 
 void tst_MvPureTimelineRulerWidget::wheelZoomsWithTheSchemeModifier()
