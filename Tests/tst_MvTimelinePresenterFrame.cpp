@@ -197,36 +197,39 @@ void tst_MvTimelinePresenterFrame::playingQueryReadsTheSceneAnswer()
 
 void tst_MvTimelinePresenterFrame::placeholderIsDeletedByItsReceiver_data()
 {
-    QTest::addColumn<bool>("shown");
+    QTest::addColumn<int>("width"); // of the placeholder shown; -1 when none is
     QTest::addColumn<bool>("receiverHides");
+    QTest::addColumn<bool>("arg");
     QTest::addColumn<QString>("notes"); // state changes and delete requests, in order
     QTest::addColumn<bool>("deleted");
-    QTest::newRow("hidden: nothing to delete") << false << true << "" << false;
-    QTest::newRow("no receiver: still there") << true << false << "shown delete(1)" << false;
-    QTest::newRow("the receiver takes it away") << true << true << "shown delete(1) hidden" << true;
+    QTest::newRow("hidden: nothing to delete") << -1 << true << true << "" << false;
+    QTest::newRow("no width: nothing to delete") << 0 << true << true << "shown" << false;
+    QTest::newRow("no receiver: still there") << 30 << false << false << "shown delete(0)" << false;
+    QTest::newRow("the receiver takes it away") << 30 << true << true << "shown delete(1) hidden" << true;
 }
 
 void tst_MvTimelinePresenterFrame::placeholderIsDeletedByItsReceiver()
 {
-    QFETCH(bool, shown);
+    QFETCH(int, width);
     QFETCH(bool, receiverHides);
+    QFETCH(bool, arg);
     QFETCH(QString, notes);
     QFETCH(bool, deleted);
     MvTimelinePresenter presenter(nullptr, nullptr);
     QStringList seen;
     connect(&presenter, &MvTimelinePresenter::sigEmptyClipItemStateChanged, &presenter,
         [&seen](bool visible) { seen.append(visible ? QStringLiteral("shown") : QStringLiteral("hidden")); });
-    connect(&presenter, &MvTimelinePresenter::sigDeleteEmptyClipItem, &presenter, [&](bool arg) {
-        seen.append(QStringLiteral("delete(%1)").arg(int(arg)));
+    connect(&presenter, &MvTimelinePresenter::sigDeleteEmptyClipItem, &presenter, [&](bool value) {
+        seen.append(QStringLiteral("delete(%1)").arg(int(value)));
         if (receiverHides)
             presenter.hideEmptyClip();
     });
-    if (shown)
-        presenter.showEmptyClip(10, 20, 30, 40);
-    QCOMPARE(presenter.emptyClipItemVisible(), shown);
-    QCOMPARE(presenter.deleteEmptyClipItem(true), deleted);
+    if (width >= 0)
+        presenter.showEmptyClip(10, 20, width, 40);
+    QCOMPARE(presenter.emptyClipItemVisible(), width > 0);
+    QCOMPARE(presenter.deleteEmptyClipItem(arg), deleted);
     QCOMPARE(seen.join(QLatin1Char(' ')), notes);
-    QCOMPARE(presenter.emptyClipRect(), shown && !deleted ? QRect(10, 20, 30, 40) : QRect(0, 0, 0, 0));
+    QCOMPARE(presenter.emptyClipItemVisible(), width > 0 && !deleted);
 }
 
 void tst_MvTimelinePresenterFrame::adjustTrackHeightUsesTheOverride()
