@@ -24,6 +24,28 @@ public:
     }
 };
 
+// A ruler that notes every frame it is asked to show before it clamps it itself.
+class RecordingRuler : public MvMemoryRuler
+{
+public:
+    QList<qint64> requested;
+    void setCurrentFrame(qint64 frame) override
+    {
+        requested.append(frame);
+        MvMemoryRuler::setCurrentFrame(frame);
+    }
+};
+
+// The widget over a recording ruler, through the constructor a host uses for its own ruler model.
+class WidgetOverRecordingRuler : public MvPureTimelineRulerWidget
+{
+public:
+    explicit WidgetOverRecordingRuler(RecordingRuler* ruler)
+        : MvPureTimelineRulerWidget(ruler, nullptr)
+    {
+    }
+};
+
 void moveTo(QWidget* widget, int x, Qt::MouseButtons buttons = Qt::LeftButton)
 {
     const QPoint pos(x, 20);
@@ -46,6 +68,7 @@ class tst_MvPureTimelineRulerWidget : public QObject
 private Q_SLOTS:
     void init();
     void clicksSeekHandleDragsClampAndTheCursorTells();
+    void framesLeftOfZeroAreClampedByTheWidget();
     void edgeScrolling_data();
     void edgeScrolling();
     void dragToZoomThresholds_data();
@@ -94,6 +117,27 @@ void tst_MvPureTimelineRulerWidget::clicksSeekHandleDragsClampAndTheCursorTells(
     QCOMPARE(m_widget->cursor().shape(), Qt::ArrowCursor);
     moveTo(m_widget.data(), 8, Qt::NoButton);
     QCOMPARE(m_widget->cursor().shape(), Qt::SizeHorCursor);
+}
+
+void tst_MvPureTimelineRulerWidget::framesLeftOfZeroAreClampedByTheWidget()
+{
+    auto* ruler = new RecordingRuler;
+    WidgetOverRecordingRuler widget(ruler);
+    widget.resize(kWidth, kHeight);
+    widget.setFramerate({ 30, 1 });
+    widget.setTotalFrames(1800);
+    widget.setCurrentFrame(900);
+    ruler->requested.clear();
+
+    widget.setCurrentFramePixel(-40.0);
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(widget.currentFramePixel(), 20));
+    moveTo(&widget, -20);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(-20, 20));
+
+    // The ruler model is never asked for a frame before the start, whatever it would do with one.
+    QVERIFY(!ruler->requested.isEmpty());
+    QVERIFY2(std::all_of(ruler->requested.cbegin(), ruler->requested.cend(), [](qint64 f) { return f >= 0; }),
+        qPrintable(QStringLiteral("asked for %1").arg(ruler->requested.first())));
 }
 
 void tst_MvPureTimelineRulerWidget::edgeScrolling_data()

@@ -9,8 +9,9 @@
 
 #include <algorithm>
 
-MvPureTimelineRulerWidgetPrivate::MvPureTimelineRulerWidgetPrivate(MvPureTimelineRulerWidget* q)
-    : ruler(IMvTimelineRuler::createInstance())
+MvPureTimelineRulerWidgetPrivate::MvPureTimelineRulerWidgetPrivate(
+    MvPureTimelineRulerWidget* q, IMvTimelineRuler* ownRuler)
+    : ruler(ownRuler ? ownRuler : IMvTimelineRuler::createInstance())
     , q_ptr(q)
     , target(this)
     , gesture(nullptr)
@@ -106,8 +107,13 @@ void MvPureTimelineRulerWidgetPrivate::GestureTarget::moveCurrentFrameToCenter()
 }
 
 MvPureTimelineRulerWidget::MvPureTimelineRulerWidget(QWidget* parent)
+    : MvPureTimelineRulerWidget(nullptr, parent)
+{
+}
+
+MvPureTimelineRulerWidget::MvPureTimelineRulerWidget(IMvTimelineRuler* ruler, QWidget* parent)
     : MvWidget(parent)
-    , d_ptr(new MvPureTimelineRulerWidgetPrivate(this))
+    , d_ptr(new MvPureTimelineRulerWidgetPrivate(this, ruler))
 {
     Q_D(MvPureTimelineRulerWidget);
     // Made once the private object exists: adding a child already sends this widget an event.

@@ -48,6 +48,10 @@ Q_SIGNALS:
     void sigViewWidthChanged();
 
 protected:
+    // Over a ruler model the host supplies (for instance one of its own kind); the widget takes
+    // ownership of it.
+    MvPureTimelineRulerWidget(IMvTimelineRuler* ruler, QWidget* parent);
+
     bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

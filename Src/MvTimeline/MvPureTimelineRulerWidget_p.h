@@ -10,7 +10,7 @@ class MvPureTimelineRulerWidgetPrivate : public IMvTimelineRulerEventObserover
     Q_DECLARE_PUBLIC(MvPureTimelineRulerWidget)
 
 public:
-    explicit MvPureTimelineRulerWidgetPrivate(MvPureTimelineRulerWidget* q);
+    MvPureTimelineRulerWidgetPrivate(MvPureTimelineRulerWidget* q, IMvTimelineRuler* ruler);
     ~MvPureTimelineRulerWidgetPrivate() override;
 
     void onRulerEvent(int kind) override;
