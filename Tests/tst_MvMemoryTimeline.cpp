@@ -278,14 +278,18 @@ void tst_MvMemoryTimeline::playheadNotifiesOnlyOnChange()
 void tst_MvMemoryTimeline::invariantCheckerCatchesBrokenStates()
 {
     Project overlap;
-    overlap.b->mutableState().start = 90;
+    MvMemoryClip::State overlapping = overlap.b->state();
+    overlapping.start = 90;
+    overlap.b->setStateUnchecked(overlapping);
     QVERIFY(overlap.timeline->checkInvariants().contains(QLatin1String("overlaps")));
     Project deadSelection;
     deadSelection.timeline->deleteClips({ deadSelection.a });
     deadSelection.timeline->selectionImpl()->setItemsUnchecked({ deadSelection.a });
     QVERIFY(deadSelection.timeline->checkInvariants().contains(QLatin1String("selection")));
     Project wrongTrack;
-    wrongTrack.a->mutableState().track = wrongTrack.timeline->memoryTrack(1);
+    MvMemoryClip::State moved = wrongTrack.a->state();
+    moved.track = wrongTrack.timeline->memoryTrack(1);
+    wrongTrack.a->setStateUnchecked(moved);
     QVERIFY(wrongTrack.timeline->checkInvariants().contains(QLatin1String("back reference")));
     Project openStep;
     openStep.timeline->undoRedoService()->beginStep(QStringLiteral("open"), QStringLiteral("test"));

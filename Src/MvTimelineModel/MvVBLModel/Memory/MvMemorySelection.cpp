@@ -3,6 +3,8 @@
 #include "IMvAbstractClip.h"
 #include "MvMemoryTimeline.h"
 
+#include <algorithm>
+
 MvMemorySelection::MvMemorySelection(MvMemoryTimeline* timeline)
     : m_timeline(timeline)
 {
@@ -21,15 +23,19 @@ void MvMemorySelection::select(const QList<IMvClip*>& clips)
 void MvMemorySelection::selectItems(const QList<IMvAbstractClip*>& items)
 {
     m_items.clear();
+    m_members.clear();
     for (IMvAbstractClip* item : items) {
-        if (m_timeline->isLive(item) && !m_items.contains(item))
+        if (m_timeline->isLive(item) && !m_members.contains(item)) {
+            m_members.insert(item);
             m_items.append(item);
+        }
     }
 }
 
 void MvMemorySelection::clear()
 {
     m_items.clear();
+    m_members.clear();
 }
 
 int MvMemorySelection::count() const
@@ -72,14 +78,26 @@ void MvMemorySelection::setTimelineSelected(bool selected)
     m_timelineSelected = selected;
 }
 
-bool MvMemorySelection::prune()
+bool MvMemorySelection::prune(const QList<const IMvAbstractClip*>& candidates)
 {
-    const int before = m_items.size();
-    for (int i = m_items.size() - 1; i >= 0; --i) {
-        if (!m_timeline->isLive(m_items.at(i)))
-            m_items.removeAt(i);
+    QSet<const IMvAbstractClip*> gone;
+    for (const IMvAbstractClip* item : candidates) {
+        if (m_members.contains(item) && !m_timeline->isLive(item))
+            gone.insert(item);
     }
-    return m_items.size() != before;
+    if (gone.isEmpty())
+        return false;
+    m_items.erase(std::remove_if(m_items.begin(), m_items.end(),
+                      [&gone](const IMvAbstractClip* item) { return gone.contains(item); }),
+        m_items.end());
+    m_members.subtract(gone);
+    return true;
+}
+
+void MvMemorySelection::setItemsUnchecked(const QList<IMvAbstractClip*>& items)
+{
+    m_items = items;
+    m_members = QSet<const IMvAbstractClip*>(items.cbegin(), items.cend());
 }
 
 bool MvMemorySubItemSelection::selectedId(int& id) const

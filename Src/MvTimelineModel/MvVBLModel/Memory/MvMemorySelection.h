@@ -2,6 +2,8 @@
 
 #include "IMvSelection.h"
 
+#include <QSet>
+
 class MvMemoryTimeline;
 
 // The selection is a view of the user's focus; it is not part of undo. It only ever holds items
@@ -22,14 +24,16 @@ public:
     bool isTimelineSelected() const override;
     void setTimelineSelected(bool selected) override;
 
-    // Drops items that are no longer on the timeline; true when something was dropped.
-    bool prune();
+    // Drops those of the candidates (what an edit or undo changed) that are selected and no longer
+    // on the timeline; true when something was dropped.
+    bool prune(const QList<const IMvAbstractClip*>& candidates);
     // For invariant tests: stores items without any check.
-    void setItemsUnchecked(const QList<IMvAbstractClip*>& items) { m_items = items; }
+    void setItemsUnchecked(const QList<IMvAbstractClip*>& items);
 
 private:
     MvMemoryTimeline* m_timeline;
     QList<IMvAbstractClip*> m_items;
+    QSet<const IMvAbstractClip*> m_members; // the same items, for lookups
     bool m_timelineSelected = false;
 };
 

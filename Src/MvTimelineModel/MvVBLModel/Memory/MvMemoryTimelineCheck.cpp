@@ -63,14 +63,14 @@ QString MvMemoryTimelinePrivate::clipId(const MvMemoryClip* clip) const
 {
     if (!clip)
         return QStringLiteral("-");
-    return QLatin1Char('c') % num(allClips.indexOf(const_cast<MvMemoryClip*>(clip)));
+    return QLatin1Char('c') % num(clip->number());
 }
 
 void MvMemoryTimelinePrivate::checkTracks(QStringList& problems) const
 {
     bool audioSeen = false;
-    for (int row = 0; row < tracks.size(); ++row) {
-        const MvMemoryTrack* track = tracks.at(row);
+    for (int row = 0; row < rows().size(); ++row) {
+        const MvMemoryTrack* track = rows().at(row);
         const QString name = QLatin1String("track ") % num(row);
         if (track->index() != row)
             problems.append(name % QLatin1String(": index() disagrees"));
@@ -79,6 +79,7 @@ void MvMemoryTimelinePrivate::checkTracks(QStringList& problems) const
         else if (audioSeen)
             problems.append(name % QLatin1String(": picture row below an audio row"));
         const QList<MvMemoryClip*> clips = track->memoryClips();
+        qint64 lastEnd = -1;
         for (int i = 0; i < clips.size(); ++i) {
             const MvMemoryClip* clip = clips.at(i);
             const QString what = name % QLatin1Char(' ') % clipId(clip);
@@ -90,36 +91,43 @@ void MvMemoryTimelinePrivate::checkTracks(QStringList& problems) const
                 problems.append(what % QLatin1String(": type not allowed on this row"));
             if (i > 0 && clips.at(i - 1)->end() >= clip->start())
                 problems.append(what % QLatin1String(": overlaps or out of order"));
+            lastEnd = qMax(lastEnd, clip->end());
         }
+        if (track->lastEnd() != lastEnd)
+            problems.append(name % QLatin1String(": last end disagrees with its clips"));
     }
 }
 
 void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
 {
-    QSet<const MvMemoryClip*> grouped;
     for (const MvMemoryClip* clip : allClips) {
-        if (clip->isOnTimeline() && !clip->trackImpl()->memoryClips().contains(const_cast<MvMemoryClip*>(clip)))
+        if (clip->isOnTimeline() && !clip->trackImpl()->holds(clip))
             problems.append(clipId(clip) % QLatin1String(": not in its track's list"));
-        if (clip->isOnTimeline() && !tracks.contains(clip->trackImpl()))
+        if (clip->isOnTimeline() && clip->trackImpl()->index() < 0)
             problems.append(clipId(clip) % QLatin1String(": on a track that is not on the timeline"));
         if (!clip->isOnTimeline())
             continue;
         const qint64 last = clip->frameCount() - 1;
-        for (bool audio : { false, true }) {
-            const QList<qint64> keys = clip->keyFrames(audio);
-            if (!keys.isEmpty() && (keys.first() < 0 || keys.last() > last))
+        for (const MvKeyFrameMap* keys : { &clip->state().videoKeys, &clip->state().audioKeys }) {
+            if (!keys->isEmpty() && (keys->firstKey() < 0 || keys->lastKey() > last))
                 problems.append(clipId(clip) % QLatin1String(": keyframe off the clip"));
         }
-        const QList<int> ids = clip->state().freezeFrames.keys();
-        for (int id : ids) {
-            if (clip->freezeFrameAt(id) < 0 || clip->freezeFrameAt(id) > last)
+        const QMap<int, qint64>& freezeFrames = clip->state().freezeFrames;
+        for (auto it = freezeFrames.cbegin(); it != freezeFrames.cend(); ++it) {
+            if (it.value() < 0 || it.value() > last)
                 problems.append(clipId(clip) % QLatin1String(": freeze frame off the clip"));
         }
-        if (!MvMemoryClip::hasPicture(clip->type()) && !ids.isEmpty())
+        if (!MvMemoryClip::hasPicture(clip->type()) && !freezeFrames.isEmpty())
             problems.append(clipId(clip) % QLatin1String(": freeze frame on a clip without picture"));
         checkMarkers(clip->markerList(), clipId(clip), false, problems);
     }
-    for (const MvMemoryGroup& group : groups) {
+}
+
+void MvMemoryTimelinePrivate::checkGroupsAndTransitions(QStringList& problems) const
+{
+    QSet<const MvMemoryClip*> grouped;
+    const QList<MvMemoryGroup> live = groups->liveGroups();
+    for (const MvMemoryGroup& group : live) {
         if (group.members.size() < 2)
             problems.append(QStringLiteral("a group with fewer than two members"));
         for (const MvMemoryClip* member : group.members) {
@@ -127,15 +135,21 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
                 problems.append(clipId(member) % QLatin1String(": grouped but not on the timeline"));
             if (grouped.contains(member))
                 problems.append(clipId(member) % QLatin1String(": in two groups"));
+            else if (!groups->groupOf(member) || groups->groupOf(member)->state().members != group.members)
+                problems.append(clipId(member) % QLatin1String(": its group lookup disagrees"));
             grouped.insert(member);
         }
     }
     for (const MvMemoryTransition* transition : allTransitions) {
+        const QString name = QLatin1String("transition ") % num(transition->identifier());
+        const bool listed = transition->owner() && transition->owner()->liveTransitions().contains(
+                                const_cast<MvMemoryTransition*>(transition));
+        if (listed != (transition->state().attached && transition->owner()))
+            problems.append(name % QLatin1String(": its owner's list disagrees"));
         if (!transition->isLive())
             continue;
         if (transition->length() < 1 || transition->length() > transition->owner()->frameCount())
-            problems.append(
-                QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
+            problems.append(name % QLatin1String(": longer than its clip"));
     }
 }
 
@@ -143,11 +157,13 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
 {
     Q_Q(const MvMemoryTimeline);
     const QList<IMvAbstractClip*> items = selection->selectedItems();
-    for (int i = 0; i < items.size(); ++i) {
-        if (!q->isLive(items.at(i)))
+    QSet<const IMvAbstractClip*> seen;
+    for (const IMvAbstractClip* item : items) {
+        if (!q->isLive(item))
             problems.append(QStringLiteral("selection holds an item that is not on the timeline"));
-        if (items.indexOf(items.at(i)) != i)
+        if (seen.contains(item))
             problems.append(QStringLiteral("selection holds an item twice"));
+        seen.insert(item);
     }
     checkMarkers(timelineMarkers, QStringLiteral("timeline"), true, problems);
     const qint64 length = q->duration();
@@ -161,6 +177,7 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
     }
     if (undo->isStepOpen())
         problems.append(QStringLiteral("an undo step is left open"));
+    problems.append(recorder->problems());
 }
 
 QString MvMemoryTimeline::checkInvariants() const
@@ -169,6 +186,7 @@ QString MvMemoryTimeline::checkInvariants() const
     QStringList problems;
     d->checkTracks(problems);
     d->checkClips(problems);
+    d->checkGroupsAndTransitions(problems);
     d->checkItems(problems);
     return problems.join(QLatin1Char('\n'));
 }
@@ -176,7 +194,7 @@ QString MvMemoryTimeline::checkInvariants() const
 QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
 {
     Q_Q(const MvMemoryTimeline);
-    const MvMemoryClip::State state = clip->state();
+    const MvMemoryClip::State& state = clip->state();
     QString text = QLatin1String("  ") % clipId(clip) % QLatin1String(" type=") % num(state.type) % QLatin1String(" \"")
         % state.name % QLatin1String("\" ") % num(state.start) % QLatin1String("..") % num(state.end)
         % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=") % num(q->groupKindOf(clip))
@@ -205,15 +223,16 @@ QString MvMemoryTimeline::stateText() const
     QStringList lines;
     lines.append(
         QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ") % num(d->playhead->currentFrame()));
-    for (int row = 0; row < d->tracks.size(); ++row) {
-        const MvMemoryTrack* track = d->tracks.at(row);
+    for (int row = 0; row < d->rows().size(); ++row) {
+        const MvMemoryTrack* track = d->rows().at(row);
         lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
             % QLatin1String(" locked=") % num(track->isLocked()));
         const QList<MvMemoryClip*> clips = track->memoryClips();
         for (const MvMemoryClip* clip : clips)
             lines.append(d->clipText(clip));
     }
-    for (const MvMemoryGroup& group : d->groups) {
+    const QList<MvMemoryGroup> groups = d->groups->liveGroups();
+    for (const MvMemoryGroup& group : groups) {
         QStringList members;
         for (const MvMemoryClip* member : group.members)
             members.append(d->clipId(member));

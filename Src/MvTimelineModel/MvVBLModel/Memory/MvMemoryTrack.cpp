@@ -3,36 +3,36 @@
 #include "MvMemoryClip.h"
 #include "MvMemoryTimeline.h"
 
-#include <algorithm>
+#include <limits>
 
 MvMemoryTrack::MvMemoryTrack(MvMemoryTimeline* timeline, MVVBLMODEL::MvTrackType type)
-    : m_timeline(timeline)
+    : MvMemoryValued<State>(timeline->undoRecorder(), State { type, false })
+    , m_timeline(timeline)
 {
-    m_state.type = type;
 }
 
 int MvMemoryTrack::index() const
 {
-    return m_timeline->indexOfTrack(this);
+    return m_row;
 }
 
 MVVBLMODEL::MvTrackType MvMemoryTrack::type() const
 {
-    return m_state.type;
+    return state().type;
 }
 
 bool MvMemoryTrack::isLocked() const
 {
-    return m_state.locked;
+    return state().locked;
 }
 
 void MvMemoryTrack::setLocked(bool locked)
 {
-    if (m_state.locked == locked)
+    if (state().locked == locked)
         return;
     MvMemoryTimeline::Edit edit(
         m_timeline, "setLocked", locked ? QStringLiteral("lock track") : QStringLiteral("unlock track"));
-    m_state.locked = locked;
+    change()->locked = locked;
 }
 
 int MvMemoryTrack::height() const
@@ -48,9 +48,9 @@ void MvMemoryTrack::setHeight(int height)
 QList<IMvClip*> MvMemoryTrack::clips() const
 {
     QList<IMvClip*> clips;
-    clips.reserve(m_state.clips.size());
-    for (MvMemoryClip* clip : m_state.clips)
-        clips.append(clip);
+    clips.reserve(clipCount());
+    for (const auto& entry : m_clips)
+        clips.append(entry.second);
     return clips;
 }
 
@@ -61,23 +61,69 @@ bool MvMemoryTrack::accepts(MVVBLMODEL::MvClipType clipType) const
     if (clipType == MVVBLMODEL::ClipType_Transition || clipType < MVVBLMODEL::ClipType_Audio
         || clipType > MVVBLMODEL::ClipType_SoundEffect)
         return false;
-    return (m_state.type == MVVBLMODEL::TrackType_Audio) == MVVBLMODEL::isAudioClipType(clipType);
+    return (state().type == MVVBLMODEL::TrackType_Audio) == MVVBLMODEL::isAudioClipType(clipType);
 }
 
-void MvMemoryTrack::insertSorted(MvMemoryClip* clip)
+QList<MvMemoryClip*> MvMemoryTrack::memoryClips() const
 {
-    auto at = std::upper_bound(m_state.clips.begin(), m_state.clips.end(), clip,
-        [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() < b->start(); });
-    m_state.clips.insert(at, clip);
+    QList<MvMemoryClip*> clips;
+    clips.reserve(clipCount());
+    for (const auto& entry : m_clips)
+        clips.append(entry.second);
+    return clips;
 }
 
-void MvMemoryTrack::take(MvMemoryClip* clip)
+// Clips on a row do not overlap, so only the clip starting last before `first` can reach into
+// the span from the left.
+QList<MvMemoryClip*> MvMemoryTrack::clipsMeeting(qint64 first, qint64 last) const
 {
-    m_state.clips.removeAll(clip);
+    QList<MvMemoryClip*> found;
+    auto it = m_clips.lower_bound(Key(first, std::numeric_limits<int>::min()));
+    if (it != m_clips.begin())
+        --it;
+    for (; it != m_clips.end() && it->first.first <= last; ++it) {
+        if (it->second->end() >= first)
+            found.append(it->second);
+    }
+    return found;
 }
 
-void MvMemoryTrack::resort()
+QList<MvMemoryClip*> MvMemoryTrack::clipsFrom(qint64 first) const
 {
-    std::stable_sort(m_state.clips.begin(), m_state.clips.end(),
-        [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() < b->start(); });
+    QList<MvMemoryClip*> found;
+    for (auto it = m_clips.lower_bound(Key(first, std::numeric_limits<int>::min())); it != m_clips.end(); ++it)
+        found.append(it->second);
+    return found;
+}
+
+bool MvMemoryTrack::holds(const MvMemoryClip* clip) const
+{
+    const auto it = m_clips.find(Key(clip->start(), clip->number()));
+    return it != m_clips.end() && it->second == clip;
+}
+
+void MvMemoryTrack::noteClip(MvMemoryClip* clip, qint64 start, qint64 end)
+{
+    m_clips.emplace(Key(start, clip->number()), clip);
+    m_ends.insert(end);
+}
+
+void MvMemoryTrack::forgetClip(MvMemoryClip* clip, qint64 start, qint64 end)
+{
+    m_clips.erase(Key(start, clip->number()));
+    const auto it = m_ends.find(end);
+    if (it != m_ends.end())
+        m_ends.erase(it);
+}
+
+QString MvMemoryTrack::undoLabel() const
+{
+    return QStringLiteral("track %1").arg(m_row);
+}
+
+// A track made later than a capture is not on the timeline then, and not locked.
+MvMemoryTrack::State MvMemoryTrack::detached(State value) const
+{
+    value.locked = false;
+    return value;
 }
