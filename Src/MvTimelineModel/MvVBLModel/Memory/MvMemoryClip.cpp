@@ -467,13 +467,16 @@ MvMemoryClip::State MvMemoryClip::detached(State value) const
 void MvMemoryClip::valueChanged()
 {
     const State& now = state();
-    if (now.track == m_indexedTrack && now.start == m_indexedStart && now.end == m_indexedEnd)
+    if (now.track == m_indexedTrack && now.start == m_indexedStart)
         return;
-    if (m_indexedTrack)
-        m_indexedTrack->forgetClip(this, m_indexedStart, m_indexedEnd);
+    if (m_indexedTrack && now.track == m_indexedTrack) {
+        m_indexedTrack->moveClip(this, m_indexedStart, now.start);
+    } else {
+        if (m_indexedTrack)
+            m_indexedTrack->forgetClip(this, m_indexedStart);
+        if (now.track)
+            now.track->noteClip(this, now.start);
+    }
     m_indexedTrack = now.track;
     m_indexedStart = now.start;
-    m_indexedEnd = now.end;
-    if (m_indexedTrack)
-        m_indexedTrack->noteClip(this, now.start, now.end);
 }

@@ -219,9 +219,8 @@ private:
     MvMemoryTransitionList* m_transitions;
     MvMemoryFreezeFrameList* m_freezeFrames;
     MvMemorySmartKeyingNodes* m_nodes;
-    // Where the track's lookup holds this clip.
+    // Where a track's lookup holds this clip.
     MvMemoryTrack* m_indexedTrack = nullptr;
     qint64 m_indexedStart = 0;
-    qint64 m_indexedEnd = 0;
     QList<MvMemoryTransition*> m_attached; // attached transitions, in creation order
 };

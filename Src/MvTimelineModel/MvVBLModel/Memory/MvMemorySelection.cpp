@@ -23,19 +23,20 @@ void MvMemorySelection::select(const QList<IMvClip*>& clips)
 void MvMemorySelection::selectItems(const QList<IMvAbstractClip*>& items)
 {
     m_items.clear();
-    m_members.clear();
+    m_marks = MvMemoryMarks();
+    m_items.reserve(items.size());
     for (IMvAbstractClip* item : items) {
-        if (m_timeline->isLive(item) && !m_members.contains(item)) {
-            m_members.insert(item);
+        bool live = false;
+        const MvMemoryUndoable* own = m_timeline->ownItem(item, &live);
+        if (live && !m_marks.mark(own->undoSerial()))
             m_items.append(item);
-        }
     }
 }
 
 void MvMemorySelection::clear()
 {
     m_items.clear();
-    m_members.clear();
+    m_marks = MvMemoryMarks();
 }
 
 int MvMemorySelection::count() const
@@ -80,24 +81,36 @@ void MvMemorySelection::setTimelineSelected(bool selected)
 
 bool MvMemorySelection::prune(const QList<const IMvAbstractClip*>& candidates)
 {
-    QSet<const IMvAbstractClip*> gone;
+    MvMemoryMarks gone;
+    bool any = false;
     for (const IMvAbstractClip* item : candidates) {
-        if (m_members.contains(item) && !m_timeline->isLive(item))
-            gone.insert(item);
+        bool live = false;
+        const MvMemoryUndoable* own = m_timeline->ownItem(item, &live);
+        if (own && !live && m_marks.isMarked(own->undoSerial())) {
+            gone.mark(own->undoSerial());
+            m_marks.unmark(own->undoSerial());
+            any = true;
+        }
     }
-    if (gone.isEmpty())
+    if (!any)
         return false;
     m_items.erase(std::remove_if(m_items.begin(), m_items.end(),
-                      [&gone](const IMvAbstractClip* item) { return gone.contains(item); }),
+                      [this, &gone](const IMvAbstractClip* item) {
+                          const MvMemoryUndoable* own = m_timeline->ownItem(item);
+                          return own && gone.isMarked(own->undoSerial());
+                      }),
         m_items.end());
-    m_members.subtract(gone);
     return true;
 }
 
 void MvMemorySelection::setItemsUnchecked(const QList<IMvAbstractClip*>& items)
 {
     m_items = items;
-    m_members = QSet<const IMvAbstractClip*>(items.cbegin(), items.cend());
+    m_marks = MvMemoryMarks();
+    for (const IMvAbstractClip* item : items) {
+        if (const MvMemoryUndoable* own = m_timeline->ownItem(item))
+            m_marks.mark(own->undoSerial());
+    }
 }
 
 bool MvMemorySubItemSelection::selectedId(int& id) const

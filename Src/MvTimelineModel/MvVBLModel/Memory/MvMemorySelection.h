@@ -1,8 +1,7 @@
 #pragma once
 
 #include "IMvSelection.h"
-
-#include <QSet>
+#include "MvMemoryMarks.h"
 
 class MvMemoryTimeline;
 
@@ -33,7 +32,7 @@ public:
 private:
     MvMemoryTimeline* m_timeline;
     QList<IMvAbstractClip*> m_items;
-    QSet<const IMvAbstractClip*> m_members; // the same items, for lookups
+    MvMemoryMarks m_marks; // the same items by their undo serial, for lookups
     bool m_timelineSelected = false;
 };
 

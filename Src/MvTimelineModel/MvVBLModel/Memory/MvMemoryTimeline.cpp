@@ -141,23 +141,31 @@ void MvMemoryTimelinePrivate::markChangedFramesUnrendered(const MvMemoryUndoReco
             last = qMax(last, state.end);
         }
     };
-    QHash<const MvMemoryUndoable*, const MvMemoryUndoRecorder::Change*> clipChanges;
+    std::vector<const MvMemoryUndoRecorder::Change*> transitionChanges;
     for (const MvMemoryUndoRecorder::Change& change : step) {
-        if (!dynamic_cast<const MvMemoryClip*>(change.object))
-            continue;
-        clipChanges.insert(change.object, &change);
-        const MvMemoryClip::State& before = MvMemoryClip::stateOf(*change.before);
-        const MvMemoryClip::State& after = MvMemoryClip::stateOf(*change.after);
-        if (before != after) {
-            cover(before);
-            cover(after);
+        if (dynamic_cast<const MvMemoryTransition*>(change.object)) {
+            transitionChanges.push_back(&change);
+        } else if (dynamic_cast<const MvMemoryClip*>(change.object)) {
+            const MvMemoryClip::State& before = MvMemoryClip::stateOf(*change.before);
+            const MvMemoryClip::State& after = MvMemoryClip::stateOf(*change.after);
+            if (before != after) {
+                cover(before);
+                cover(after);
+            }
         }
     }
-    for (const MvMemoryUndoRecorder::Change& change : step) {
-        if (!dynamic_cast<const MvMemoryTransition*>(change.object))
-            continue;
+    if (transitionChanges.empty()) {
+        if (last >= first)
+            render->markUnfinished(first, last);
+        return;
+    }
+    // A transition covers its owner as the owner stood on the same side of the step.
+    QHash<const MvMemoryUndoable*, const MvMemoryUndoRecorder::Change*> clipChanges;
+    for (const MvMemoryUndoRecorder::Change& change : step)
+        clipChanges.insert(change.object, &change);
+    for (const MvMemoryUndoRecorder::Change* change : transitionChanges) {
         for (bool afterSide : { false, true }) {
-            const MvMemoryClip* owner = MvMemoryTransition::stateOf(afterSide ? *change.after : *change.before).owner;
+            const MvMemoryClip* owner = MvMemoryTransition::stateOf(afterSide ? *change->after : *change->before).owner;
             const MvMemoryUndoRecorder::Change* ownerChange = clipChanges.value(owner);
             if (ownerChange)
                 cover(MvMemoryClip::stateOf(afterSide ? *ownerChange->after : *ownerChange->before));
@@ -613,11 +621,29 @@ QList<MvMemoryClip*> MvMemoryTimeline::groupMembers(const MvMemoryClip* clip) co
 
 bool MvMemoryTimeline::isLive(const IMvAbstractClip* item) const
 {
-    if (const auto* clip = dynamic_cast<const MvMemoryClip*>(item))
-        return clip->timeline() == this && clip->isOnTimeline();
-    if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(item))
-        return transition->owner() && transition->owner()->timeline() == this && transition->isLive();
-    return false;
+    bool live = false;
+    ownItem(item, &live);
+    return live;
+}
+
+const MvMemoryUndoable* MvMemoryTimeline::ownItem(const IMvAbstractClip* item, bool* live) const
+{
+    const MvMemoryUndoable* own = nullptr;
+    bool onTimeline = false;
+    if (const auto* clip = dynamic_cast<const MvMemoryClip*>(item)) {
+        if (clip->timeline() == this) {
+            own = clip;
+            onTimeline = clip->isOnTimeline();
+        }
+    } else if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(item)) {
+        if (transition->owner() && transition->owner()->timeline() == this) {
+            own = transition;
+            onTimeline = transition->isLive();
+        }
+    }
+    if (live)
+        *live = onTimeline;
+    return own;
 }
 
 bool MvMemoryTimeline::isLiveMarker(const IMvMarker* marker) const

@@ -141,6 +141,9 @@ public:
     int groupKindOf(const MvMemoryClip* clip) const;
     QList<MvMemoryClip*> groupMembers(const MvMemoryClip* clip) const;
     bool isLive(const IMvAbstractClip* item) const;
+    // A clip or transition of this timeline as its undoable object (null for anything else), and
+    // whether it is on the timeline.
+    const MvMemoryUndoable* ownItem(const IMvAbstractClip* item, bool* live = nullptr) const;
     bool isLiveMarker(const IMvMarker* marker) const;
     MvMemoryClip* memoryClip(IMvClip* clip) const; // null unless the clip is this timeline's
     int nextTransitionIdentifier();

@@ -1,9 +1,9 @@
 // The clip edits of the in-memory timeline: delete, ripple delete, move, split, trim, rotate.
 #include "MvMemoryTimeline.h"
+#include "MvMemoryMarks.h"
 #include "MvMemoryTimeline_p.h"
 
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
 
@@ -53,18 +53,15 @@ QList<MvMemoryClip*> MvMemoryTimelinePrivate::liveClipsOf(const QList<IMvClip*>&
 {
     Q_Q(const MvMemoryTimeline);
     QList<MvMemoryClip*> live;
-    QSet<const MvMemoryClip*> seen;
+    live.reserve(clips.size());
+    MvMemoryMarks seen(size_t(allClips.size()));
     bool all = true;
     for (IMvClip* clip : clips) {
         MvMemoryClip* own = q->memoryClip(clip);
-        if (!own || !own->isOnTimeline()) {
+        if (!own || !own->isOnTimeline())
             all = false;
-            continue;
-        }
-        if (!seen.contains(own)) {
-            seen.insert(own);
+        else if (!seen.mark(size_t(own->number())))
             live.append(own);
-        }
     }
     if (allLive)
         *allLive = all;
@@ -103,13 +100,15 @@ void MvMemoryTimelinePrivate::closeGaps(MvMemoryTrack* track, QList<MvMemoryClip
     for (const MvMemoryClip* clip : qAsConst(removed))
         firstStart = qMin(firstStart, clip->start());
     const QList<MvMemoryClip*> following = track->clipsFrom(firstStart);
-    const QSet<const MvMemoryClip*> gone(removed.cbegin(), removed.cend());
+    MvMemoryMarks gone(size_t(allClips.size()));
+    for (const MvMemoryClip* clip : qAsConst(removed))
+        gone.mark(size_t(clip->number()));
     for (MvMemoryClip* clip : qAsConst(removed))
         detach(clip);
     int passed = 0;
     qint64 shift = 0;
     for (MvMemoryClip* clip : following) {
-        if (gone.contains(clip))
+        if (gone.isMarked(size_t(clip->number())))
             continue;
         while (passed < removed.size() && removed.at(passed)->end() < clip->start())
             shift += removed.at(passed++)->frameCount();
@@ -142,10 +141,10 @@ bool MvMemoryTimeline::rippleDeleteClips(QList<IMvClip*> clips)
 }
 
 // The moved clips may not overlap each other where they land, nor a clip that stays.
-bool MvMemoryTimelinePrivate::moveAllowed(
-    const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets, qint64 frameOffset) const
+bool MvMemoryTimelinePrivate::moveAllowed(const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets,
+    qint64 frameOffset, const MvMemoryMarks& moving) const
 {
-    QHash<MvMemoryTrack*, QList<QPair<qint64, qint64>>> spans;
+    QHash<MvMemoryTrack*, std::vector<std::pair<qint64, qint64>>> spans;
     for (int i = 0; i < clips.size(); ++i) {
         const MvMemoryClip* clip = clips.at(i);
         MvMemoryTrack* target = targets.at(i);
@@ -153,20 +152,17 @@ bool MvMemoryTimelinePrivate::moveAllowed(
             return false;
         if (clip->start() + frameOffset < 0)
             return false;
-        spans[target].append(qMakePair(clip->start() + frameOffset, clip->end() + frameOffset));
+        spans[target].emplace_back(clip->start() + frameOffset, clip->end() + frameOffset);
     }
-    const QSet<const MvMemoryClip*> moving(clips.cbegin(), clips.cend());
+    const auto staying = [&moving](const MvMemoryClip* clip) { return !moving.isMarked(size_t(clip->number())); };
     for (auto it = spans.begin(); it != spans.end(); ++it) {
-        QList<QPair<qint64, qint64>>& landing = it.value();
+        std::vector<std::pair<qint64, qint64>>& landing = it.value();
         std::sort(landing.begin(), landing.end());
-        for (int i = 0; i < landing.size(); ++i) {
-            if (i > 0 && landing.at(i).first <= landing.at(i - 1).second)
+        for (size_t i = 0; i < landing.size(); ++i) {
+            if (i > 0 && landing[i].first <= landing[i - 1].second)
                 return false;
-            const QList<MvMemoryClip*> met = it.key()->clipsMeeting(landing.at(i).first, landing.at(i).second);
-            for (const MvMemoryClip* clip : met) {
-                if (!moving.contains(clip))
-                    return false;
-            }
+            if (it.key()->anyClipMeeting(landing[i].first, landing[i].second, staying))
+                return false;
         }
     }
     return true;
@@ -180,22 +176,22 @@ bool MvMemoryTimeline::moveClips(QList<IMvClip*> clips, QList<int> trackOffsets,
     Edit edit(this, "moveClips", QStringLiteral("move clips"));
     if (mode != 2 || clips.isEmpty() || clips.size() != trackOffsets.size())
         return false;
+    // A clip given twice moves once, by the track offset given with it first.
     QList<MvMemoryClip*> moving;
     QList<MvMemoryTrack*> targets;
-    QSet<const MvMemoryClip*> seen;
+    MvMemoryMarks marks(size_t(d->allClips.size()));
     bool anyChange = frameOffset != 0;
     for (int i = 0; i < clips.size(); ++i) {
         MvMemoryClip* clip = memoryClip(clips.at(i));
         if (!clip || !clip->isOnTimeline())
             return false;
-        if (seen.contains(clip))
+        if (marks.mark(size_t(clip->number())))
             continue;
-        seen.insert(clip);
         moving.append(clip);
         targets.append(memoryTrack(clip->trackIndex() + trackOffsets.at(i)));
         anyChange = anyChange || trackOffsets.at(i) != 0;
     }
-    if (!anyChange || !d->moveAllowed(moving, targets, frameOffset))
+    if (!anyChange || !d->moveAllowed(moving, targets, frameOffset, marks))
         return false;
     for (int i = 0; i < moving.size(); ++i) {
         auto value = moving.at(i)->change();

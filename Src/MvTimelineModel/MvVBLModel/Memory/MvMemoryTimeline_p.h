@@ -8,6 +8,7 @@
 #include <functional>
 
 class IMvTimelineRuler;
+class MvMemoryMarks;
 class IMvTimelineRenderService;
 
 struct MvMemoryTimelineState
@@ -59,7 +60,8 @@ public:
     MvMemoryClip* cutClip(MvMemoryClip* clip, qint64 frame);
     bool trimStart(MvMemoryClip* clip, qint64 frame);
     bool trimEnd(MvMemoryClip* clip, qint64 frame);
-    bool moveAllowed(const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets, qint64 frameOffset) const;
+    bool moveAllowed(const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets, qint64 frameOffset,
+        const MvMemoryMarks& moving) const;
     void rotate(IMvClip* clip, int degrees, const char* operation);
     void checkTracks(QStringList& problems) const;
     void checkClips(QStringList& problems) const;

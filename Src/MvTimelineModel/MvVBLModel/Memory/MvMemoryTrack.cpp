@@ -49,8 +49,8 @@ QList<IMvClip*> MvMemoryTrack::clips() const
 {
     QList<IMvClip*> clips;
     clips.reserve(clipCount());
-    for (const auto& entry : m_clips)
-        clips.append(entry.second);
+    for (const MvMemoryClipIndex::Entry& entry : m_clips)
+        clips.append(entry.clip);
     return clips;
 }
 
@@ -68,52 +68,65 @@ QList<MvMemoryClip*> MvMemoryTrack::memoryClips() const
 {
     QList<MvMemoryClip*> clips;
     clips.reserve(clipCount());
-    for (const auto& entry : m_clips)
-        clips.append(entry.second);
+    for (const MvMemoryClipIndex::Entry& entry : m_clips)
+        clips.append(entry.clip);
     return clips;
 }
 
-// Clips on a row do not overlap, so only the clip starting last before `first` can reach into
-// the span from the left.
+MvMemoryClipIndex::Iterator MvMemoryTrack::firstMeeting(qint64 first) const
+{
+    auto it = m_clips.lowerBound(Key(first, std::numeric_limits<int>::min()));
+    if (it != m_clips.begin())
+        --it;
+    return it;
+}
+
+qint64 MvMemoryTrack::endOf(const MvMemoryClip* clip)
+{
+    return clip->end();
+}
+
 QList<MvMemoryClip*> MvMemoryTrack::clipsMeeting(qint64 first, qint64 last) const
 {
     QList<MvMemoryClip*> found;
-    auto it = m_clips.lower_bound(Key(first, std::numeric_limits<int>::min()));
-    if (it != m_clips.begin())
-        --it;
-    for (; it != m_clips.end() && it->first.first <= last; ++it) {
-        if (it->second->end() >= first)
-            found.append(it->second);
-    }
+    anyClipMeeting(first, last, [&found](MvMemoryClip* clip) {
+        found.append(clip);
+        return false;
+    });
     return found;
 }
 
 QList<MvMemoryClip*> MvMemoryTrack::clipsFrom(qint64 first) const
 {
     QList<MvMemoryClip*> found;
-    for (auto it = m_clips.lower_bound(Key(first, std::numeric_limits<int>::min())); it != m_clips.end(); ++it)
-        found.append(it->second);
+    for (auto it = m_clips.lowerBound(Key(first, std::numeric_limits<int>::min())); it != m_clips.end(); ++it)
+        found.append(it->clip);
     return found;
+}
+
+qint64 MvMemoryTrack::lastEnd() const
+{
+    return m_clips.isEmpty() ? -1 : m_clips.last().clip->end();
 }
 
 bool MvMemoryTrack::holds(const MvMemoryClip* clip) const
 {
-    const auto it = m_clips.find(Key(clip->start(), clip->number()));
-    return it != m_clips.end() && it->second == clip;
+    return m_clips.contains(Key(clip->start(), clip->number()), clip);
 }
 
-void MvMemoryTrack::noteClip(MvMemoryClip* clip, qint64 start, qint64 end)
+void MvMemoryTrack::noteClip(MvMemoryClip* clip, qint64 start)
 {
-    m_clips.emplace(Key(start, clip->number()), clip);
-    m_ends.insert(end);
+    m_clips.insert(Key(start, clip->number()), clip);
 }
 
-void MvMemoryTrack::forgetClip(MvMemoryClip* clip, qint64 start, qint64 end)
+void MvMemoryTrack::forgetClip(const MvMemoryClip* clip, qint64 start)
 {
     m_clips.erase(Key(start, clip->number()));
-    const auto it = m_ends.find(end);
-    if (it != m_ends.end())
-        m_ends.erase(it);
+}
+
+void MvMemoryTrack::moveClip(const MvMemoryClip* clip, qint64 from, qint64 to)
+{
+    m_clips.rekey(Key(from, clip->number()), Key(to, clip->number()));
 }
 
 QString MvMemoryTrack::undoLabel() const

@@ -5,9 +5,7 @@
 
 #include <QList>
 
-#include <map>
-#include <set>
-#include <utility>
+#include "MvMemoryClipIndex.h"
 
 class MvMemoryTimeline;
 class MvMemoryClip;
@@ -44,19 +42,21 @@ public:
 
     // The clips on this row, by start.
     QList<MvMemoryClip*> memoryClips() const;
-    int clipCount() const { return int(m_clips.size()); }
-    // The clips that cover a frame of first .. last, by start.
+    int clipCount() const { return m_clips.size(); }
+    // Whether a clip that covers a frame of first .. last makes `test` true.
+    template <typename Test> bool anyClipMeeting(qint64 first, qint64 last, Test test) const;
     QList<MvMemoryClip*> clipsMeeting(qint64 first, qint64 last) const;
     // The clips starting at or after a frame, by start.
     QList<MvMemoryClip*> clipsFrom(qint64 first) const;
-    // The last frame a clip covers; -1 on an empty row.
-    qint64 lastEnd() const { return m_ends.empty() ? -1 : *m_ends.rbegin(); }
+    // The last frame a clip covers (clips on a row do not overlap); -1 on an empty row.
+    qint64 lastEnd() const;
     // The lookup holds the clip under its present start (for the invariant checker).
     bool holds(const MvMemoryClip* clip) const;
 
     // Kept by the clips and by the timeline's row order.
-    void noteClip(MvMemoryClip* clip, qint64 start, qint64 end);
-    void forgetClip(MvMemoryClip* clip, qint64 start, qint64 end);
+    void noteClip(MvMemoryClip* clip, qint64 start);
+    void forgetClip(const MvMemoryClip* clip, qint64 start);
+    void moveClip(const MvMemoryClip* clip, qint64 from, qint64 to);
     void setRow(int row) { m_row = row; }
     QString undoLabel() const override;
 
@@ -65,11 +65,23 @@ protected:
 
 private:
     Q_DISABLE_COPY(MvMemoryTrack)
-    using Key = std::pair<qint64, int>; // start, clip number
+    using Key = MvMemoryClipIndex::Key;
+    // The first clip that may cover a frame of first .. : only the clip starting last before
+    // `first` can reach into it from the left.
+    MvMemoryClipIndex::Iterator firstMeeting(qint64 first) const;
+    static qint64 endOf(const MvMemoryClip* clip);
 
     MvMemoryTimeline* m_timeline;
-    std::map<Key, MvMemoryClip*> m_clips;
-    std::multiset<qint64> m_ends;
+    MvMemoryClipIndex m_clips;
     int m_row = -1;
     int m_height = 60;
 };
+
+template <typename Test> bool MvMemoryTrack::anyClipMeeting(qint64 first, qint64 last, Test test) const
+{
+    for (auto it = firstMeeting(first); it != m_clips.end() && it->key.first <= last; ++it) {
+        if (endOf(it->clip) >= first && test(it->clip))
+            return true;
+    }
+    return false;
+}
