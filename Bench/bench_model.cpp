@@ -78,8 +78,8 @@ QString size(int clipCount)
 
 // The "floor" of a scaling line is the time at the smaller size; beside the goal stands how the
 // same run's floor scaled, which is what the machine's caches allow a walk over the clips.
-void reportScaling(const QString& what, const double (&times)[2], const double (&floors)[2], const QString& sizes,
-    const QString& goal)
+void reportScaling(
+    const QString& what, const double (&times)[2], const double (&floors)[2], const QString& sizes, const QString& goal)
 {
     const double floorScaling = floors[0] > 0 ? floors[1] / floors[0] : 0;
     MvBench::report(QStringLiteral("  %1: %2").arg(what, sizes), times[1], times[0],
@@ -194,8 +194,8 @@ void splits()
     }
     reportScaling(what, { times[1], times[2] }, { floors[1], floors[2] }, QStringLiteral("100k against 10k"),
         QStringLiteral("13"));
-    reportScaling(what, { times[0], times[2] }, { floors[0], floors[2] }, QStringLiteral("100k against 1k"),
-        QStringLiteral("3"));
+    reportScaling(
+        what, { times[0], times[2] }, { floors[0], floors[2] }, QStringLiteral("100k against 1k"), QStringLiteral("3"));
 }
 }
 

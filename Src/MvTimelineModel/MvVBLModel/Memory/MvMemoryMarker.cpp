@@ -206,7 +206,8 @@ void MvMemoryMarkerList::dropOutside(qint64 firstFrame, qint64 lastFrame)
     if (std::none_of(attached.cbegin(), attached.cend(), outside))
         return;
     auto value = change();
-    value->attached.erase(std::remove_if(value->attached.begin(), value->attached.end(), outside), value->attached.end());
+    value->attached.erase(
+        std::remove_if(value->attached.begin(), value->attached.end(), outside), value->attached.end());
 }
 
 void MvMemoryMarkerList::shiftFrames(qint64 delta)

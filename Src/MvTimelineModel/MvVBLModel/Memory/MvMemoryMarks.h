@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 // A set of the model's objects for one command, kept as one bit per object under a dense number
@@ -8,14 +9,14 @@
 class MvMemoryMarks
 {
 public:
-    explicit MvMemoryMarks(size_t count = 0)
+    explicit MvMemoryMarks(std::size_t count = 0)
         : m_bits(count, false)
     {
     }
 
-    bool isMarked(size_t number) const { return number < m_bits.size() && m_bits[number]; }
+    bool isMarked(std::size_t number) const { return number < m_bits.size() && m_bits[number]; }
     // Marks the number; true when it was marked already.
-    bool mark(size_t number)
+    bool mark(std::size_t number)
     {
         if (number >= m_bits.size())
             m_bits.resize(number + 1, false);
@@ -23,7 +24,7 @@ public:
         m_bits[number] = true;
         return was;
     }
-    void unmark(size_t number)
+    void unmark(std::size_t number)
     {
         if (number < m_bits.size())
             m_bits[number] = false;

@@ -1,4 +1,6 @@
-// Consistency check and full-state dump of the in-memory timeline, for tests and the demo log.
+// Consistency check and full-state dump of the in-memory timeline, for tests and the demo log. The
+// dump shows every value undo restores of what is on the timeline; a value it left out would let
+// every undo test pass without checking it.
 #include "IMvTimelineRuler.h"
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
@@ -22,8 +24,10 @@ QString keysText(const MvKeyFrameMap& keys)
     QStringList parts;
     for (auto it = keys.cbegin(); it != keys.cend(); ++it) {
         QStringList properties;
-        for (const MVVBLMODEL::MvEffectPropertyBaseInfo& info : it.value())
-            properties.append(num(info.group) % QLatin1Char(':') % num(info.propertyId));
+        for (const MVVBLMODEL::MvEffectPropertyBaseInfo& info : it.value()) {
+            properties.append(num(info.group) % QLatin1Char(':') % num(info.propertyId) % QLatin1String(" \"")
+                % info.name % QLatin1String("\" flag=") % num(info.flag) % QLatin1String(" index=") % num(info.index));
+        }
         parts.append(num(it.key()) % QLatin1Char('{') % properties.join(QLatin1Char(',')) % QLatin1Char('}'));
     }
     return parts.join(QLatin1Char(' '));
@@ -34,8 +38,8 @@ QString markersText(const MvMemoryMarkerList* list)
     QStringList parts;
     const QList<MvMemoryMarker*> markers = list->attachedMarkers();
     for (const MvMemoryMarker* marker : markers) {
-        parts.append(num(marker->frame()) % QLatin1Char(' ') % marker->color().name() % QLatin1String(" \"")
-            % marker->name() % QLatin1String("\" \"") % marker->comment() % QLatin1Char('"'));
+        parts.append(num(marker->frame()) % QLatin1Char(' ') % marker->color().name(QColor::HexArgb)
+            % QLatin1String(" \"") % marker->name() % QLatin1String("\" \"") % marker->comment() % QLatin1Char('"'));
     }
     return parts.join(QLatin1String("; "));
 }
@@ -138,8 +142,8 @@ void MvMemoryTimelinePrivate::checkGroupsAndTransitions(QStringList& problems) c
     }
     for (const MvMemoryTransition* transition : allTransitions) {
         const QString name = QLatin1String("transition ") % num(transition->identifier());
-        const bool listed = transition->owner() && transition->owner()->liveTransitions().contains(
-                                const_cast<MvMemoryTransition*>(transition));
+        const bool listed = transition->owner()
+            && transition->owner()->liveTransitions().contains(const_cast<MvMemoryTransition*>(transition));
         if (listed != (transition->state().attached && transition->owner()))
             problems.append(name % QLatin1String(": its owner's list disagrees"));
         if (!transition->isLive())
@@ -196,7 +200,8 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
         % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=") % num(q->groupKindOf(clip))
         % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=") % num(state.enabled)
         % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=") % num(state.tracking)
-        % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
+        % QLatin1String(" smart keying=") % num(state.smartKeying) % QLatin1String(" nodes=")
+        % num(state.smartKeyingNodes);
     text += QLatin1String("\n    markers: ") % markersText(clip->markerList());
     text += QLatin1String("\n    video keys: ") % keysText(state.videoKeys);
     text += QLatin1String("\n    audio keys: ") % keysText(state.audioKeys);

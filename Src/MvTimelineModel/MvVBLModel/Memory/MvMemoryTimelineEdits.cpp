@@ -1,6 +1,6 @@
 // The clip edits of the in-memory timeline: delete, ripple delete, move, split, trim, rotate.
-#include "MvMemoryTimeline.h"
 #include "MvMemoryMarks.h"
+#include "MvMemoryTimeline.h"
 #include "MvMemoryTimeline_p.h"
 
 #include <QHash>

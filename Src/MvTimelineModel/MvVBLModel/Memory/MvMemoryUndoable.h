@@ -55,7 +55,7 @@ protected:
     void changeDone();
     // Keeps the lookups that other objects hold about this one (a track's clips by start, a clip's
     // group, ...) in line with the value. Called after every change, undo and redo.
-    virtual void valueChanged() {}
+    virtual void valueChanged() { }
     MvMemoryUndoRecorder* recorder() const { return m_recorder; }
 
 private:
