@@ -49,9 +49,9 @@ struct Command
     std::function<void(Sample&)> run;
 };
 
-const QMap<QString, Command>& commands()
+QMap<QString, Command> clipEdits()
 {
-    static const QMap<QString, Command> all {
+    return {
         { QStringLiteral("split linked clips, keys, a start transition and a marker"),
             { 2,
                 [](Sample& s) {
@@ -83,6 +83,12 @@ const QMap<QString, Command>& commands()
         { QStringLiteral("ripple delete"), { 1, [](Sample& s) { s.t.rippleDeleteClips({ s.clip("Old map") }); } } },
         { QStringLiteral("move across rows"),
             { 1, [](Sample& s) { s.t.moveClips({ s.clip("Logo") }, { -1 }, 30, 2); } } },
+    };
+}
+
+QMap<QString, Command> itemAndStepEdits()
+{
+    return {
         { QStringLiteral("group and ungroup"),
             { 2,
                 [](Sample& s) {
@@ -164,6 +170,15 @@ const QMap<QString, Command>& commands()
                     marker->setColor(marker->color());
                 } } },
     };
+}
+
+const QMap<QString, Command>& commands()
+{
+    static const QMap<QString, Command> all = [] {
+        QMap<QString, Command> both = clipEdits();
+        both.insert(itemAndStepEdits());
+        return both;
+    }();
     return all;
 }
 
