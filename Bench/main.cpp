@@ -4,6 +4,7 @@
 
 void registerRulerBenchmarks();
 void registerLibraryLoopBenchmarks();
+void registerModelBenchmarks();
 
 // mvtimeline-bench [group]: runs every benchmark group, or those whose name contains the argument.
 int main(int argc, char** argv)
@@ -13,6 +14,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     registerRulerBenchmarks();
     registerLibraryLoopBenchmarks();
+    registerModelBenchmarks();
     const QStringList arguments = app.arguments();
     return MvBench::runAll(arguments.size() > 1 ? arguments.at(1) : QString());
 }

@@ -1,4 +1,5 @@
 #include "IMvTimelineRuler.h"
+#include "Memory/MvMemoryClipIndex.h"
 #include "Memory/MvMemoryEditService.h"
 #include "Memory/MvMemoryPlayhead.h"
 #include "Memory/MvMemoryRenderService.h"
@@ -8,7 +9,11 @@
 
 #include <QtTest>
 
+#include <QRandomGenerator>
+
+#include <algorithm>
 #include <functional>
+#include <map>
 #include <memory>
 
 using namespace MVVBLMODEL;
@@ -60,6 +65,65 @@ QString spans(const QList<IMvClip*>& clips)
     return out.join(QLatin1Char(' '));
 }
 
+// Empty when each row's lookup gives exactly the clips whose value puts them on that row, by start,
+// and finds the clips meeting a window as a walk over them would.
+QString rowsDisagree(const MvMemoryTimeline& timeline, qint64 window)
+{
+    for (int row = 0; row < timeline.trackCount(); ++row) {
+        MvMemoryTrack* track = timeline.memoryTrack(row);
+        QList<MvMemoryClip*> expected;
+        for (MvMemoryClip* clip : timeline.allClips()) {
+            if (clip->trackImpl() == track)
+                expected.append(clip);
+        }
+        std::sort(expected.begin(), expected.end(), [](auto* a, auto* b) { return a->start() < b->start(); });
+        if (track->memoryClips() != expected)
+            return QStringLiteral("row %1 lists other clips").arg(row);
+        QList<MvMemoryClip*> meeting;
+        for (MvMemoryClip* clip : qAsConst(expected)) {
+            if (clip->start() <= window + 50 && clip->end() >= window)
+                meeting.append(clip);
+        }
+        if (track->clipsMeeting(window, window + 50) != meeting)
+            return QStringLiteral("row %1 finds other clips at %2").arg(row).arg(window);
+    }
+    return QString();
+}
+
+// One edit of a random kind on a random clip; most moves are refused, which is part of the test.
+void randomEdit(MvMemoryTimeline& timeline, QRandomGenerator& random)
+{
+    const QList<MvMemoryClip*> live = timeline.liveClips();
+    MvMemoryClip* clip = live.at(random.bounded(live.size()));
+    MvMemoryClip* other = live.at(random.bounded(live.size()));
+    const qint64 inside = clip->start() + random.bounded(int(clip->frameCount()));
+    QList<IMvClip*> pieces;
+    switch (random.bounded(8)) {
+    case 0:
+    case 1:
+        timeline.moveClips({ clip, other }, { 0, random.bounded(3) - 1 }, random.bounded(121) - 60, 2);
+        break;
+    case 2:
+        timeline.rippleDeleteClips({ clip });
+        break;
+    case 3:
+        timeline.deleteClips({ clip, other });
+        break;
+    case 4:
+        timeline.splitClips(pieces, { clip, other }, inside);
+        break;
+    case 5:
+        timeline.trimStartToFrame(clip, inside);
+        timeline.trimEndToFrame(other, other->start() + 3);
+        break;
+    case 6:
+        timeline.undoRedoService()->undo();
+        break;
+    default:
+        timeline.undoRedoService()->redo();
+    }
+}
+
 struct RecordingObserver : IMvPlayheadEventObserver
 {
     QList<int> kinds;
@@ -84,6 +148,8 @@ private Q_SLOTS:
     void groupRules();
     void playheadNotifiesOnlyOnChange();
     void invariantCheckerCatchesBrokenStates();
+    void rowLookupsFollowEveryEdit();
+    void rowIndexKeepsItsOrderThroughSplitsAndMerges();
 };
 
 void tst_MvMemoryTimeline::editIsAllOrNothing_data()
@@ -278,19 +344,91 @@ void tst_MvMemoryTimeline::playheadNotifiesOnlyOnChange()
 void tst_MvMemoryTimeline::invariantCheckerCatchesBrokenStates()
 {
     Project overlap;
-    overlap.b->mutableState().start = 90;
+    MvMemoryClip::State overlapping = overlap.b->state();
+    overlapping.start = 90;
+    overlap.b->setStateUnchecked(overlapping);
     QVERIFY(overlap.timeline->checkInvariants().contains(QLatin1String("overlaps")));
     Project deadSelection;
     deadSelection.timeline->deleteClips({ deadSelection.a });
     deadSelection.timeline->selectionImpl()->setItemsUnchecked({ deadSelection.a });
     QVERIFY(deadSelection.timeline->checkInvariants().contains(QLatin1String("selection")));
     Project wrongTrack;
-    wrongTrack.a->mutableState().track = wrongTrack.timeline->memoryTrack(1);
+    MvMemoryClip::State moved = wrongTrack.a->state();
+    moved.track = wrongTrack.timeline->memoryTrack(1);
+    wrongTrack.a->setStateUnchecked(moved);
     QVERIFY(wrongTrack.timeline->checkInvariants().contains(QLatin1String("back reference")));
     Project openStep;
     openStep.timeline->undoRedoService()->beginStep(QStringLiteral("open"), QStringLiteral("test"));
     QVERIFY(openStep.timeline->checkInvariants().contains(QLatin1String("undo step")));
     openStep.timeline->undoRedoService()->endStep();
+}
+
+// Rows of several hundred clips (more than one chunk of a row's lookup) under a fixed series of
+// random edits, undos and redos: the lookups always agree with the clips' own values.
+void tst_MvMemoryTimeline::rowLookupsFollowEveryEdit()
+{
+    MvMemoryTimeline timeline;
+    timeline.addTrack(TrackType_Picture);
+    timeline.addTrack(TrackType_Picture);
+    QRandomGenerator random(20240611);
+    for (int row = 0; row < 2; ++row) {
+        qint64 start = 0;
+        for (int i = 0; i < 700; ++i) {
+            timeline.addClip(row, ClipType_Video, start, start + 9, QStringLiteral("clip"));
+            start += 10 + random.bounded(30);
+        }
+    }
+    for (int i = 0; i < 400; ++i) {
+        randomEdit(timeline, random);
+        const QString wrong = timeline.checkInvariants() + rowsDisagree(timeline, random.bounded(20000));
+        QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("after edit %1: %2").arg(i).arg(wrong)));
+    }
+}
+
+// The index under many inserts, erases and new keys (in place and not), against an ordered map:
+// its chunks split as a row grows past a few hundred clips and merge as it empties again.
+void tst_MvMemoryTimeline::rowIndexKeepsItsOrderThroughSplitsAndMerges()
+{
+    std::vector<char> identities(4000); // the index never looks behind a clip pointer
+    auto clip = [&identities](int number) { return reinterpret_cast<MvMemoryClip*>(&identities[size_t(number)]); };
+    MvMemoryClipIndex index;
+    std::map<MvMemoryClipIndex::Key, MvMemoryClip*> reference;
+    QRandomGenerator random(7);
+    for (int round = 0; round < 3; ++round) {
+        for (int i = 0; i < 6000; ++i) {
+            const int number = random.bounded(4000);
+            const auto known = std::find_if(
+                reference.begin(), reference.end(), [&](const auto& entry) { return entry.first.second == number; });
+            const bool growing = round != 1;
+            if (known == reference.end() && (growing || random.bounded(4) == 0)) {
+                const MvMemoryClipIndex::Key key(random.bounded(100000), number);
+                index.insert(key, clip(number));
+                reference.emplace(key, clip(number));
+            } else if (known != reference.end() && (!growing || random.bounded(3) == 0)) {
+                index.erase(known->first);
+                reference.erase(known);
+            } else if (known != reference.end()) {
+                const MvMemoryClipIndex::Key to(known->first.first + random.bounded(201) - 100, number);
+                index.rekey(known->first, to);
+                reference.erase(known);
+                reference.emplace(to, clip(number));
+            }
+        }
+        QCOMPARE(index.size(), int(reference.size()));
+        auto expected = reference.begin();
+        for (const MvMemoryClipIndex::Entry& entry : index) {
+            QVERIFY(entry.key == expected->first && entry.clip == expected->second);
+            ++expected;
+        }
+        for (int probe = 0; probe < 200; ++probe) {
+            const MvMemoryClipIndex::Key key(random.bounded(100000), 0);
+            const auto found = index.lowerBound(key);
+            const auto wanted = reference.lower_bound(key);
+            QCOMPARE(found == index.end(), wanted == reference.end());
+            QVERIFY(wanted == reference.end() || found->key == wanted->first);
+        }
+    }
+    QVERIFY(index.size() > 1000);
 }
 
 QTEST_GUILESS_MAIN(tst_MvMemoryTimeline)

@@ -38,10 +38,10 @@ QList<IMvClip*> IMvClipHelper::findClips(IMvTimeline* timeline, qint64 frame)
     const QList<IMvClip*> selected = timeline->selection() ? timeline->selection()->selectedClips() : QList<IMvClip*>();
     if (selected.isEmpty())
         return under;
-    const QSet<IMvClip*> underSet(under.cbegin(), under.cend());
+    const QSet<IMvClip*> cut(under.cbegin(), under.cend());
     QList<IMvClip*> found;
     for (IMvClip* clip : selected) {
-        if (underSet.contains(clip))
+        if (cut.contains(clip))
             found.append(clip);
     }
     return found;
@@ -50,7 +50,7 @@ QList<IMvClip*> IMvClipHelper::findClips(IMvTimeline* timeline, qint64 frame)
 QList<IMvClip*> IMvClipHelper::findPrepareSplitClip(QList<IMvClip*> clips, bool addPartners)
 {
     QList<IMvClip*> prepared;
-    QSet<IMvClip*> taken;
+    QSet<const IMvClip*> taken;
     for (IMvClip* clip : qAsConst(clips)) {
         if (!cuttable(clip) || taken.contains(clip))
             continue;

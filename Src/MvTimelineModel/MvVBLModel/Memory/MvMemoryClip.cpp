@@ -3,23 +3,25 @@
 #include "MvMemoryTimeline.h"
 #include "MvMemoryTrack.h"
 
+#include <algorithm>
+
 using namespace MVVBLMODEL;
 
-bool MvMemoryClip::State::operator==(const State& other) const
+bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
 {
     return type == other.type && start == other.start && end == other.end && name == other.name
         && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
-        && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
-        && markers == other.markers;
+        && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames;
 }
 
 // ---- transitions
 
-MvMemoryTransition::MvMemoryTransition(int identifier, const State& state)
-    : m_identifier(identifier)
-    , m_state(state)
+MvMemoryTransition::MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state)
+    : MvMemoryValued<State>(timeline->undoRecorder(), state)
+    , m_identifier(identifier)
 {
+    valueChanged();
 }
 
 MvClipType MvMemoryTransition::type() const
@@ -29,26 +31,28 @@ MvClipType MvMemoryTransition::type() const
 
 qint64 MvMemoryTransition::start() const
 {
-    if (!m_state.owner)
+    const State& s = state();
+    if (!s.owner)
         return 0;
-    return m_state.placement == AtStart ? m_state.owner->start() : m_state.owner->end() - m_state.length + 1;
+    return s.placement == AtStart ? s.owner->start() : s.owner->end() - s.length + 1;
 }
 
 qint64 MvMemoryTransition::end() const
 {
-    if (!m_state.owner)
+    const State& s = state();
+    if (!s.owner)
         return 0;
-    return m_state.placement == AtStart ? m_state.owner->start() + m_state.length - 1 : m_state.owner->end();
+    return s.placement == AtStart ? s.owner->start() + s.length - 1 : s.owner->end();
 }
 
 QString MvMemoryTransition::name() const
 {
-    return m_state.name;
+    return state().name;
 }
 
 IMvClip* MvMemoryTransition::ownerClip() const
 {
-    return m_state.owner;
+    return state().owner;
 }
 
 int MvMemoryTransition::identifier() const
@@ -58,12 +62,35 @@ int MvMemoryTransition::identifier() const
 
 quint16 MvMemoryTransition::placement() const
 {
-    return m_state.placement;
+    return state().placement;
 }
 
 bool MvMemoryTransition::isLive() const
 {
-    return m_state.attached && m_state.owner && m_state.owner->isOnTimeline();
+    return state().attached && state().owner && state().owner->isOnTimeline();
+}
+
+QString MvMemoryTransition::undoLabel() const
+{
+    return QStringLiteral("transition %1").arg(m_identifier);
+}
+
+MvMemoryTransition::State MvMemoryTransition::detached(State value) const
+{
+    value.attached = false;
+    return value;
+}
+
+void MvMemoryTransition::valueChanged()
+{
+    MvMemoryClip* owner = state().attached ? state().owner : nullptr;
+    if (owner == m_indexedOwner)
+        return;
+    if (m_indexedOwner)
+        m_indexedOwner->forgetTransition(this);
+    m_indexedOwner = owner;
+    if (m_indexedOwner)
+        m_indexedOwner->noteTransition(this);
 }
 
 QList<IMvTransition*> MvMemoryTransitionList::transitions() const
@@ -85,9 +112,7 @@ bool MvMemoryTransitionList::remove(int identifier, quint16 placement)
         if (transition->identifier() == identifier && transition->placement() == placement) {
             if (m_clip->trackImpl()->isLocked())
                 return false;
-            MvMemoryTransition::State state = transition->state();
-            state.attached = false;
-            transition->restore(state);
+            transition->change()->attached = false;
             return true;
         }
     }
@@ -111,7 +136,7 @@ bool MvMemoryFreezeFrameList::remove(int id)
     MvMemoryTimeline::Edit edit(m_clip->timeline(), "removeFreezeFrame", QStringLiteral("remove freeze frame"));
     if (!contains(id) || (m_clip->trackImpl() && m_clip->trackImpl()->isLocked()))
         return false;
-    m_clip->mutableState().freezeFrames.remove(id);
+    m_clip->change()->freezeFrames.remove(id);
     return true;
 }
 
@@ -137,7 +162,7 @@ void MvMemorySmartKeyingNodes::removeAt(quint64 index)
         m_clip->timeline(), "removeSmartKeyingNode", QStringLiteral("remove smart keying node"));
     if (index >= quint64(count()))
         return;
-    --m_clip->mutableState().smartKeyingNodes;
+    --m_clip->change()->smartKeyingNodes;
     if (m_selected == index)
         m_selected = NoSelection;
     else if (m_selected != NoSelection && m_selected > index)
@@ -146,16 +171,16 @@ void MvMemorySmartKeyingNodes::removeAt(quint64 index)
 
 // ---- the clip
 
-MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, const State& state)
-    : m_timeline(timeline)
-    , m_state(state)
+MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& state)
+    : MvMemoryValued<State>(timeline->undoRecorder(), state)
+    , m_timeline(timeline)
+    , m_number(number)
     , m_markers(new MvMemoryMarkerList(timeline, this))
     , m_transitions(new MvMemoryTransitionList(this))
     , m_freezeFrames(new MvMemoryFreezeFrameList(this))
     , m_nodes(new MvMemorySmartKeyingNodes(this))
 {
-    m_markers->restore(state.markers);
-    m_state.markers = {};
+    valueChanged();
 }
 
 MvMemoryClip::~MvMemoryClip()
@@ -168,37 +193,37 @@ MvMemoryClip::~MvMemoryClip()
 
 MvClipType MvMemoryClip::type() const
 {
-    return m_state.type;
+    return state().type;
 }
 
 qint64 MvMemoryClip::start() const
 {
-    return m_state.start;
+    return state().start;
 }
 
 qint64 MvMemoryClip::end() const
 {
-    return m_state.end;
+    return state().end;
 }
 
 QString MvMemoryClip::name() const
 {
-    return m_state.name;
+    return state().name;
 }
 
 qint64 MvMemoryClip::position() const
 {
-    return m_state.start;
+    return state().start;
 }
 
 qint64 MvMemoryClip::frameCount() const
 {
-    return m_state.end - m_state.start + 1;
+    return state().end - state().start + 1;
 }
 
 bool MvMemoryClip::isEnabled() const
 {
-    return m_state.enabled;
+    return state().enabled;
 }
 
 IMvTimeline* MvMemoryClip::ownerTimeline() const
@@ -208,12 +233,12 @@ IMvTimeline* MvMemoryClip::ownerTimeline() const
 
 IMvTrack* MvMemoryClip::track() const
 {
-    return m_state.track;
+    return state().track;
 }
 
 int MvMemoryClip::trackIndex() const
 {
-    return m_state.track ? m_state.track->index() : -1;
+    return state().track ? state().track->index() : -1;
 }
 
 int MvMemoryClip::groupKind() const
@@ -223,7 +248,7 @@ int MvMemoryClip::groupKind() const
 
 int MvMemoryClip::rotation() const
 {
-    return m_state.rotation;
+    return state().rotation;
 }
 
 IMvTransitionList* MvMemoryClip::transitionList() const
@@ -238,40 +263,41 @@ IMvMarkerList* MvMemoryClip::clipMarkers() const
 
 IMvFreezeFrameList* MvMemoryClip::freezeFrames() const
 {
-    return hasPicture(m_state.type) ? m_freezeFrames : nullptr;
+    return hasPicture(state().type) ? m_freezeFrames : nullptr;
 }
 
 IMvSmartKeyingNodes* MvMemoryClip::smartKeyingNodes() const
 {
-    return m_state.smartKeying ? m_nodes : nullptr;
+    return state().smartKeying ? m_nodes : nullptr;
 }
 
 // A follower that left the timeline follows nothing any more.
 IMvClip* MvMemoryClip::motionTrackFollower() const
 {
-    return m_state.follower && m_state.follower->isOnTimeline() ? m_state.follower : nullptr;
+    return state().follower && state().follower->isOnTimeline() ? state().follower : nullptr;
 }
 
 bool MvMemoryClip::isMotionTrackingEnabled() const
 {
-    return m_state.tracking;
+    return state().tracking;
 }
 
 QList<qint64> MvMemoryClip::keyFrames(bool audio) const
 {
-    return (audio ? m_state.audioKeys : m_state.videoKeys).keys();
+    return (audio ? state().audioKeys : state().videoKeys).keys();
 }
 
 bool MvMemoryClip::addKeyFrame(bool audio, qint64 clipFrame, const QList<MvEffectPropertyBaseInfo>& properties)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "addKeyFrame", QStringLiteral("add key frame"));
-    const bool sideOk = audio ? supportsAudioKeyFrames(m_state.type) : supportsVideoKeyFrames(m_state.type);
-    MvKeyFrameMap& keys = audio ? m_state.audioKeys : m_state.videoKeys;
+    const bool sideOk = audio ? supportsAudioKeyFrames(state().type) : supportsVideoKeyFrames(state().type);
+    const MvKeyFrameMap& keys = audio ? state().audioKeys : state().videoKeys;
     if (!sideOk || clipFrame < 0 || clipFrame >= frameCount() || keys.contains(clipFrame))
         return false;
-    if (m_state.track && m_state.track->isLocked())
+    if (state().track && state().track->isLocked())
         return false;
-    keys.insert(clipFrame, properties);
+    auto value = change();
+    (audio ? value->audioKeys : value->videoKeys).insert(clipFrame, properties);
     return true;
 }
 
@@ -279,7 +305,7 @@ bool MvMemoryClip::canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& sel
 {
     if (!selection.isValid() || selection.clip != this || selection.isAudio() != audio)
         return false;
-    const MvKeyFrameMap& keys = audio ? m_state.audioKeys : m_state.videoKeys;
+    const MvKeyFrameMap& keys = audio ? state().audioKeys : state().videoKeys;
     for (qint64 frame : selection.frames) {
         if (!keys.contains(frame))
             return false;
@@ -290,13 +316,17 @@ bool MvMemoryClip::canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& sel
 bool MvMemoryClip::removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "removeKeyFrames", QStringLiteral("remove key frames"));
-    if (selection.clip != this || (m_state.track && m_state.track->isLocked()))
+    if (selection.clip != this || (state().track && state().track->isLocked()))
         return false;
-    MvKeyFrameMap& keys = audio ? m_state.audioKeys : m_state.videoKeys;
-    int removed = 0;
+    const MvKeyFrameMap& keys = audio ? state().audioKeys : state().videoKeys;
+    const bool any = std::any_of(
+        selection.frames.cbegin(), selection.frames.cend(), [&keys](qint64 frame) { return keys.contains(frame); });
+    if (!any)
+        return false;
+    auto value = change();
     for (qint64 frame : selection.frames)
-        removed += keys.remove(frame);
-    return removed > 0;
+        (audio ? value->audioKeys : value->videoKeys).remove(frame);
+    return true;
 }
 
 IMvKeyFrameSelector::MvSelectData MvMemoryClip::allKeyFrames(bool audio) const
@@ -311,14 +341,14 @@ IMvKeyFrameSelector::MvSelectData MvMemoryClip::allKeyFrames(bool audio) const
 void MvMemoryClip::setName(const QString& name)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "setName", QStringLiteral("rename clip"));
-    m_state.name = name;
+    change()->name = name;
 }
 
 void MvMemoryClip::setEnabled(bool enabled)
 {
     MvMemoryTimeline::Edit edit(
         m_timeline, "setEnabled", enabled ? QStringLiteral("enable clip") : QStringLiteral("disable clip"));
-    m_state.enabled = enabled;
+    change()->enabled = enabled;
 }
 
 void MvMemoryClip::setMotionTrackFollower(MvMemoryClip* follower)
@@ -326,34 +356,35 @@ void MvMemoryClip::setMotionTrackFollower(MvMemoryClip* follower)
     MvMemoryTimeline::Edit edit(m_timeline, "setMotionTrackFollower", QStringLiteral("set motion tracking"));
     if (follower == this || (follower && follower->timeline() != m_timeline))
         return;
-    m_state.follower = follower;
+    change()->follower = follower;
 }
 
 void MvMemoryClip::setMotionTrackingEnabled(bool enabled)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "setMotionTrackingEnabled", QStringLiteral("set motion tracking"));
-    m_state.tracking = enabled;
+    change()->tracking = enabled;
 }
 
 void MvMemoryClip::setSmartKeyingNodeCount(int count)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "setSmartKeyingNodeCount", QStringLiteral("smart keying"));
-    m_state.smartKeying = count > 0;
-    m_state.smartKeyingNodes = qMax(0, count);
+    auto value = change();
+    value->smartKeying = count > 0;
+    value->smartKeyingNodes = qMax(0, count);
 }
 
 bool MvMemoryClip::addFreezeFrame(int id, qint64 clipFrame)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "addFreezeFrame", QStringLiteral("add freeze frame"));
-    if (!hasPicture(m_state.type) || m_state.freezeFrames.contains(id) || clipFrame < 0 || clipFrame >= frameCount())
+    if (!hasPicture(state().type) || state().freezeFrames.contains(id) || clipFrame < 0 || clipFrame >= frameCount())
         return false;
-    m_state.freezeFrames.insert(id, clipFrame);
+    change()->freezeFrames.insert(id, clipFrame);
     return true;
 }
 
 MvKeyFrameProperties MvMemoryClip::keyFrameProperties(bool audio, qint64 clipFrame) const
 {
-    return (audio ? m_state.audioKeys : m_state.videoKeys).value(clipFrame);
+    return (audio ? state().audioKeys : state().videoKeys).value(clipFrame);
 }
 
 bool MvMemoryClip::supportsAudioKeyFrames(MvClipType type)
@@ -397,21 +428,55 @@ bool MvMemoryClip::hasPicture(MvClipType type)
     return !isAudioClipType(type) && type != ClipType_Transition;
 }
 
+// Start transitions first (the latest made first), then end transitions in the order they were made.
 QList<MvMemoryTransition*> MvMemoryClip::liveTransitions() const
 {
-    return m_timeline->transitionsOf(this);
+    QList<MvMemoryTransition*> found;
+    for (MvMemoryTransition* transition : m_attached) {
+        if (transition->placement() == IMvTransition::AtStart)
+            found.prepend(transition);
+        else
+            found.append(transition);
+    }
+    return found;
 }
 
-MvMemoryClip::State MvMemoryClip::state() const
+QString MvMemoryClip::undoLabel() const
 {
-    State state = m_state;
-    state.markers = m_markers->state();
-    return state;
+    return QStringLiteral("clip c%1").arg(m_number);
 }
 
-void MvMemoryClip::restore(const State& state)
+void MvMemoryClip::noteTransition(MvMemoryTransition* transition)
 {
-    m_state = state;
-    m_markers->restore(state.markers);
-    m_state.markers = {};
+    auto at = std::lower_bound(m_attached.begin(), m_attached.end(), transition,
+        [](const MvMemoryTransition* a, const MvMemoryTransition* b) { return a->undoSerial() < b->undoSerial(); });
+    m_attached.insert(at, transition);
+}
+
+void MvMemoryClip::forgetTransition(MvMemoryTransition* transition)
+{
+    m_attached.removeOne(transition);
+}
+
+MvMemoryClip::State MvMemoryClip::detached(State value) const
+{
+    value.track = nullptr;
+    return value;
+}
+
+void MvMemoryClip::valueChanged()
+{
+    const State& now = state();
+    if (now.track == m_indexedTrack && now.start == m_indexedStart)
+        return;
+    if (m_indexedTrack && now.track == m_indexedTrack) {
+        m_indexedTrack->moveClip(this, m_indexedStart, now.start);
+    } else {
+        if (m_indexedTrack)
+            m_indexedTrack->forgetClip(this, m_indexedStart);
+        if (now.track)
+            now.track->noteClip(this, now.start);
+    }
+    m_indexedTrack = now.track;
+    m_indexedStart = now.start;
 }

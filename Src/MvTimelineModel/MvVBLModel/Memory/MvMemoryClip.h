@@ -3,6 +3,7 @@
 #include "IMvAbstractClip.h"
 #include "IMvClipItems.h"
 #include "MvMemoryMarker.h"
+#include "MvMemoryUndoable.h"
 
 #include <QMap>
 
@@ -13,27 +14,30 @@ class MvMemoryClip;
 using MvKeyFrameProperties = QList<MVVBLMODEL::MvEffectPropertyBaseInfo>;
 using MvKeyFrameMap = QMap<qint64, MvKeyFrameProperties>; // clip frame -> keyed properties
 
+struct MvMemoryTransitionState
+{
+    MvMemoryClip* owner = nullptr;
+    quint16 placement = IMvTransition::AtStart;
+    qint64 length = 1;
+    QString name;
+    bool attached = true;
+
+    bool operator==(const MvMemoryTransitionState& other) const
+    {
+        return owner == other.owner && placement == other.placement && length == other.length && name == other.name
+            && attached == other.attached;
+    }
+};
+
 // A transition rides on its owner clip: it covers the owner's first (AtStart) or last (AtEnd)
-// length frames, so it moves and trims with the owner.
-class MVVBLMODEL_EXPORT MvMemoryTransition : public IMvTransition
+// length frames, so it moves and trims with the owner. Its owner keeps the list of the
+// transitions attached to it.
+class MVVBLMODEL_EXPORT MvMemoryTransition : public IMvTransition, public MvMemoryValued<MvMemoryTransitionState>
 {
 public:
-    struct State
-    {
-        MvMemoryClip* owner = nullptr;
-        quint16 placement = AtStart;
-        qint64 length = 1;
-        QString name;
-        bool attached = true;
+    using State = MvMemoryTransitionState;
 
-        bool operator==(const State& other) const
-        {
-            return owner == other.owner && placement == other.placement && length == other.length && name == other.name
-                && attached == other.attached;
-        }
-    };
-
-    MvMemoryTransition(int identifier, const State& state);
+    MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state);
 
     MVVBLMODEL::MvClipType type() const override;
     qint64 start() const override;
@@ -43,17 +47,20 @@ public:
     int identifier() const override;
     quint16 placement() const override;
 
-    qint64 length() const { return m_state.length; }
-    MvMemoryClip* owner() const { return m_state.owner; }
+    qint64 length() const { return state().length; }
+    MvMemoryClip* owner() const { return state().owner; }
     // On the timeline: attached to an owner that is on a track.
     bool isLive() const;
-    const State& state() const { return m_state; }
-    void restore(const State& state) { m_state = state; }
+    QString undoLabel() const override;
+
+protected:
+    State detached(State value) const override;
+    void valueChanged() override;
 
 private:
     Q_DISABLE_COPY(MvMemoryTransition)
     int m_identifier;
-    State m_state;
+    MvMemoryClip* m_indexedOwner = nullptr; // the owner whose list holds this transition
 };
 
 class MVVBLMODEL_EXPORT MvMemoryTransitionList : public IMvTransitionList
@@ -106,33 +113,38 @@ private:
     quint64 m_selected = NoSelection;
 };
 
-// A clip of the in-memory model. Every value that undo restores sits in State; the clip object
-// itself lives as long as its timeline (a removed clip is detached: its track is null).
-class MVVBLMODEL_EXPORT MvMemoryClip : public IMvClip
+struct MvMemoryClipState
+{
+    MVVBLMODEL::MvClipType type = MVVBLMODEL::ClipType_Video;
+    qint64 start = 0;
+    qint64 end = 0;
+    QString name;
+    bool enabled = true;
+    MvMemoryTrack* track = nullptr;
+    int rotation = 0;
+    MvMemoryClip* follower = nullptr;
+    bool tracking = false;
+    bool smartKeying = false;
+    int smartKeyingNodes = 0;
+    MvKeyFrameMap videoKeys;
+    MvKeyFrameMap audioKeys;
+    QMap<int, qint64> freezeFrames; // id -> clip frame
+
+    bool operator==(const MvMemoryClipState& other) const;
+    bool operator!=(const MvMemoryClipState& other) const { return !(*this == other); }
+};
+
+// A clip of the in-memory model. Every value that undo restores sits in State (its markers in its
+// marker list, an undoable object of its own); the clip object itself lives as long as its
+// timeline (a removed clip is detached: its track is null). Its track keeps it in its lookup by
+// start.
+class MVVBLMODEL_EXPORT MvMemoryClip : public IMvClip, public MvMemoryValued<MvMemoryClipState>
 {
 public:
-    struct State
-    {
-        MVVBLMODEL::MvClipType type = MVVBLMODEL::ClipType_Video;
-        qint64 start = 0;
-        qint64 end = 0;
-        QString name;
-        bool enabled = true;
-        MvMemoryTrack* track = nullptr;
-        int rotation = 0;
-        MvMemoryClip* follower = nullptr;
-        bool tracking = false;
-        bool smartKeying = false;
-        int smartKeyingNodes = 0;
-        MvKeyFrameMap videoKeys;
-        MvKeyFrameMap audioKeys;
-        QMap<int, qint64> freezeFrames; // id -> clip frame
-        MvMemoryMarkerList::State markers;
+    using State = MvMemoryClipState;
 
-        bool operator==(const State& other) const;
-    };
-
-    MvMemoryClip(MvMemoryTimeline* timeline, const State& state);
+    // The number is the clip's place in the timeline's creation order.
+    MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& state);
     ~MvMemoryClip() override;
 
     // IMvAbstractClip
@@ -173,7 +185,7 @@ public:
     // Adds a freeze frame at a clip frame; false for clips without a picture, a used id or a frame
     // off the clip.
     bool addFreezeFrame(int id, qint64 clipFrame);
-    qint64 freezeFrameAt(int id) const { return m_state.freezeFrames.value(id, -1); }
+    qint64 freezeFrameAt(int id) const { return state().freezeFrames.value(id, -1); }
     // The properties keyed at a clip frame of one side (empty when there is no keyframe).
     MvKeyFrameProperties keyFrameProperties(bool audio, qint64 clipFrame) const;
 
@@ -183,22 +195,32 @@ public:
     static bool hasPicture(MVVBLMODEL::MvClipType type);
 
     MvMemoryTimeline* timeline() const { return m_timeline; }
-    MvMemoryTrack* trackImpl() const { return m_state.track; }
-    bool isOnTimeline() const { return m_state.track != nullptr; }
+    int number() const { return m_number; }
+    MvMemoryTrack* trackImpl() const { return state().track; }
+    bool isOnTimeline() const { return state().track != nullptr; }
     MvMemoryMarkerList* markerList() const { return m_markers; }
+    // Attached transitions, the start one first.
     QList<MvMemoryTransition*> liveTransitions() const;
+    QString undoLabel() const override;
 
-    // Whole value access for undo and for the timeline's edits (which record their own steps).
-    State state() const;
-    void restore(const State& state);
-    State& mutableState() { return m_state; }
+    // Kept by the transitions attached to this clip.
+    void noteTransition(MvMemoryTransition* transition);
+    void forgetTransition(MvMemoryTransition* transition);
+
+protected:
+    State detached(State value) const override;
+    void valueChanged() override;
 
 private:
     Q_DISABLE_COPY(MvMemoryClip)
     MvMemoryTimeline* m_timeline;
-    State m_state;
+    int m_number;
     MvMemoryMarkerList* m_markers;
     MvMemoryTransitionList* m_transitions;
     MvMemoryFreezeFrameList* m_freezeFrames;
     MvMemorySmartKeyingNodes* m_nodes;
+    // Where a track's lookup holds this clip.
+    MvMemoryTrack* m_indexedTrack = nullptr;
+    qint64 m_indexedStart = 0;
+    QList<MvMemoryTransition*> m_attached; // attached transitions, in creation order
 };

@@ -2,6 +2,8 @@
 
 #include "MvMemoryTimeline.h"
 
+#include <QSet>
+
 MvMemoryEditService::MvMemoryEditService(MvMemoryTimeline* timeline)
     : m_timeline(timeline)
 {
@@ -24,12 +26,15 @@ void MvMemoryEditService::collectGroupMembers(
     const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const
 {
     members.clear();
+    QSet<const IMvClip*> seen;
     for (IMvClip* clip : clips) {
         QList<IMvClip*> group;
         groupMembersOf(clip, group, includeUngrouped);
         for (IMvClip* member : qAsConst(group)) {
-            if (!members.contains(member))
+            if (!seen.contains(member)) {
+                seen.insert(member);
                 members.append(member);
+            }
         }
     }
 }
@@ -37,39 +42,28 @@ void MvMemoryEditService::collectGroupMembers(
 void MvMemoryEditService::ungroup(const QList<IMvClip*>& members)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "ungroup", QStringLiteral("ungroup"));
-    QList<MvMemoryGroup> kept;
-    const QList<MvMemoryGroup> groups = m_timeline->groups();
-    for (const MvMemoryGroup& group : groups) {
-        bool hit = false;
-        for (IMvClip* member : members)
-            hit = hit || group.members.contains(m_timeline->memoryClip(member));
-        if (!hit)
-            kept.append(group);
+    QList<MvMemoryClip*> own;
+    for (IMvClip* member : members) {
+        if (MvMemoryClip* clip = m_timeline->memoryClip(member))
+            own.append(clip);
     }
-    m_timeline->setGroups(kept);
+    m_timeline->groupsImpl()->dissolveGroupsOf(own);
 }
 
 // Only clips on the timeline take part; a group needs two of them.
 void MvMemoryEditService::group(const QList<IMvClip*>& members, int groupKind)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "group", QStringLiteral("group"));
-    MvMemoryGroup created;
-    created.kind = groupKind;
+    QList<MvMemoryClip*> joining;
+    QSet<const MvMemoryClip*> seen;
     for (IMvClip* member : members) {
         MvMemoryClip* own = m_timeline->memoryClip(member);
-        if (own && own->isOnTimeline() && !created.members.contains(own))
-            created.members.append(own);
+        if (own && own->isOnTimeline() && !seen.contains(own)) {
+            seen.insert(own);
+            joining.append(own);
+        }
     }
-    if (created.members.size() < 2)
+    if (joining.size() < 2)
         return;
-    QList<MvMemoryGroup> kept;
-    const QList<MvMemoryGroup> groups = m_timeline->groups();
-    for (MvMemoryGroup group : groups) {
-        for (MvMemoryClip* member : qAsConst(created.members))
-            group.members.removeAll(member);
-        if (group.members.size() >= 2)
-            kept.append(group);
-    }
-    kept.append(created);
-    m_timeline->setGroups(kept);
+    m_timeline->groupsImpl()->form(joining, groupKind);
 }

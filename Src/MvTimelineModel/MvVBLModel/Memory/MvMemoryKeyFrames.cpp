@@ -12,12 +12,13 @@ IMvKeyFrameSelector::MvSelectData cleaned(const IMvKeyFrameSelector::MvSelectDat
 {
     IMvKeyFrameSelector::MvSelectData result = selection;
     result.frames.clear();
-    const QList<qint64> keys = clip->keyFrames(selection.isAudio());
+    const MvKeyFrameMap& keys = selection.isAudio() ? clip->state().audioKeys : clip->state().videoKeys;
     for (qint64 frame : selection.frames) {
-        if (keys.contains(frame) && !result.frames.contains(frame))
+        if (keys.contains(frame))
             result.frames.append(frame);
     }
     std::sort(result.frames.begin(), result.frames.end());
+    result.frames.erase(std::unique(result.frames.begin(), result.frames.end()), result.frames.end());
     return result;
 }
 }
@@ -116,7 +117,8 @@ bool MvMemoryKeyFrameClipboard::paste(const QList<IMvClip*>& clips)
         if (!sideOk)
             continue;
         const qint64 base = qBound<qint64>(0, playheadFrame - own->start(), own->frameCount() - span);
-        MvKeyFrameMap& keys = m_audio ? own->mutableState().audioKeys : own->mutableState().videoKeys;
+        auto value = own->change();
+        MvKeyFrameMap& keys = m_audio ? value->audioKeys : value->videoKeys;
         for (auto it = m_keys.cbegin(); it != m_keys.cend(); ++it)
             keys.insert(base + it.key(), it.value());
         pasted = true;

@@ -7,8 +7,8 @@
 #include <algorithm>
 
 MvMemoryMarker::MvMemoryMarker(MvMemoryMarkerList* owner, const State& state)
-    : m_owner(owner)
-    , m_state(state)
+    : MvMemoryValued<State>(owner->timeline()->undoRecorder(), state)
+    , m_owner(owner)
 {
 }
 
@@ -19,43 +19,43 @@ IMvMarkerList* MvMemoryMarker::ownerList() const
 
 qint64 MvMemoryMarker::frame() const
 {
-    return m_state.frame;
+    return state().frame;
 }
 
 QColor MvMemoryMarker::color() const
 {
-    return m_state.color;
+    return state().color;
 }
 
 QString MvMemoryMarker::name() const
 {
-    return m_state.name;
+    return state().name;
 }
 
 QString MvMemoryMarker::comment() const
 {
-    return m_state.comment;
+    return state().comment;
 }
 
 void MvMemoryMarker::setColor(const QColor& color)
 {
-    State state = m_state;
-    state.color = color;
-    m_owner->markerEdit(this, "setMarkerColor", state);
+    State value = state();
+    value.color = color;
+    m_owner->markerEdit(this, "setMarkerColor", value);
 }
 
 void MvMemoryMarker::setName(const QString& name)
 {
-    State state = m_state;
-    state.name = name;
-    m_owner->markerEdit(this, "setMarkerName", state);
+    State value = state();
+    value.name = name;
+    m_owner->markerEdit(this, "setMarkerName", value);
 }
 
 void MvMemoryMarker::setComment(const QString& comment)
 {
-    State state = m_state;
-    state.comment = comment;
-    m_owner->markerEdit(this, "setMarkerComment", state);
+    State value = state();
+    value.comment = comment;
+    m_owner->markerEdit(this, "setMarkerComment", value);
 }
 
 bool MvMemoryMarker::isAttached() const
@@ -63,10 +63,16 @@ bool MvMemoryMarker::isAttached() const
     return m_owner->contains(this);
 }
 
+QString MvMemoryMarker::undoLabel() const
+{
+    return m_owner->undoLabel() + QStringLiteral(", marker at %1").arg(state().frame);
+}
+
 // ---- list
 
 MvMemoryMarkerList::MvMemoryMarkerList(MvMemoryTimeline* timeline, MvMemoryClip* clip)
-    : m_timeline(timeline)
+    : MvMemoryValued<State>(timeline->undoRecorder(), State())
+    , m_timeline(timeline)
     , m_clip(clip)
 {
 }
@@ -79,19 +85,23 @@ MvMemoryMarkerList::~MvMemoryMarkerList()
 QList<IMvMarker*> MvMemoryMarkerList::markers() const
 {
     QList<IMvMarker*> list;
-    list.reserve(m_attached.size());
-    for (MvMemoryMarker* marker : m_attached)
+    list.reserve(state().attached.size());
+    for (MvMemoryMarker* marker : state().attached)
         list.append(marker);
     return list;
 }
 
+QList<MvMemoryMarker*>::const_iterator MvMemoryMarkerList::firstFrom(qint64 frame) const
+{
+    const QList<MvMemoryMarker*>& attached = state().attached;
+    return std::lower_bound(attached.cbegin(), attached.cend(), frame,
+        [](const MvMemoryMarker* marker, qint64 value) { return marker->frame() < value; });
+}
+
 IMvMarker* MvMemoryMarkerList::markerAt(qint64 frame) const
 {
-    for (MvMemoryMarker* marker : m_attached) {
-        if (marker->frame() == frame)
-            return marker;
-    }
-    return nullptr;
+    const auto it = firstFrom(frame);
+    return it != state().attached.cend() && (*it)->frame() == frame ? *it : nullptr;
 }
 
 bool MvMemoryMarkerList::canAddMarker(qint64 frame) const
@@ -120,9 +130,10 @@ MvMemoryMarker* MvMemoryMarkerList::insert(qint64 frame, const QColor& color, co
 {
     auto* marker = new MvMemoryMarker(this, MvMemoryMarker::State { frame, color, name, QString() });
     m_all.append(marker);
-    auto at = std::upper_bound(m_attached.begin(), m_attached.end(), frame,
-        [](qint64 value, const MvMemoryMarker* other) { return value < other->frame(); });
-    m_attached.insert(at, marker);
+    auto value = change();
+    auto at = std::upper_bound(value->attached.begin(), value->attached.end(), frame,
+        [](qint64 own, const MvMemoryMarker* other) { return own < other->frame(); });
+    value->attached.insert(at, marker);
     return marker;
 }
 
@@ -131,7 +142,7 @@ void MvMemoryMarkerList::removeMarker(IMvMarker* marker)
     MvMemoryTimeline::Edit edit(m_timeline, "removeMarker", QStringLiteral("remove marker"));
     if (!contains(marker) || (m_clip && m_clip->trackImpl() && m_clip->trackImpl()->isLocked()))
         return;
-    m_attached.removeAll(static_cast<MvMemoryMarker*>(marker));
+    change()->attached.removeOne(static_cast<MvMemoryMarker*>(marker));
 }
 
 // The timeline's list covers 0 .. duration (a marker may stand at the end); a clip's list its
@@ -154,66 +165,57 @@ qint64 MvMemoryMarkerList::mapToTimeline(qint64 ownFrame) const
     return m_clip ? ownFrame + m_clip->start() : ownFrame;
 }
 
+// Attached markers stand in frame order, one per frame: a marker is attached when it is the one
+// found at its own frame.
 bool MvMemoryMarkerList::contains(const IMvMarker* marker) const
 {
-    for (const MvMemoryMarker* own : m_attached) {
-        if (own == marker)
+    const auto* own = dynamic_cast<const MvMemoryMarker*>(marker);
+    if (!own || own->ownerList() != this)
+        return false;
+    for (auto it = firstFrom(own->frame()); it != state().attached.cend() && (*it)->frame() == own->frame(); ++it) {
+        if (*it == own)
             return true;
     }
     return false;
 }
 
-MvMemoryMarkerList::State MvMemoryMarkerList::state() const
+QString MvMemoryMarkerList::undoLabel() const
 {
-    State state;
-    state.attached = m_attached;
-    state.markers.reserve(m_all.size());
-    for (const MvMemoryMarker* marker : m_all)
-        state.markers.append(marker->state());
-    return state;
-}
-
-void MvMemoryMarkerList::restore(const State& state)
-{
-    m_attached.clear();
-    for (MvMemoryMarker* marker : state.attached) {
-        if (m_all.contains(marker))
-            m_attached.append(marker);
-    }
-    for (int i = 0; i < m_all.size() && i < state.markers.size(); ++i)
-        m_all[i]->restore(state.markers.at(i));
+    return m_clip ? m_clip->undoLabel() + QLatin1String(" markers") : QStringLiteral("timeline markers");
 }
 
 void MvMemoryMarkerList::moveTailTo(MvMemoryMarkerList* target, qint64 offset)
 {
-    const QList<MvMemoryMarker*> attached = m_attached;
-    for (MvMemoryMarker* marker : attached) {
-        if (marker->frame() < offset)
-            continue;
+    const auto tail = firstFrom(offset);
+    if (tail == state().attached.cend())
+        return;
+    const QList<MvMemoryMarker*> moving(tail, state().attached.cend());
+    for (const MvMemoryMarker* marker : moving) {
         MvMemoryMarker* copy = target->insert(marker->frame() - offset, marker->color(), marker->name());
-        MvMemoryMarker::State state = copy->state();
-        state.comment = marker->comment();
-        copy->restore(state);
-        m_attached.removeAll(marker);
+        copy->change()->comment = marker->comment();
     }
+    auto value = change();
+    value->attached.erase(value->attached.end() - moving.size(), value->attached.end());
 }
 
 void MvMemoryMarkerList::dropOutside(qint64 firstFrame, qint64 lastFrame)
 {
-    const QList<MvMemoryMarker*> attached = m_attached;
-    for (MvMemoryMarker* marker : attached) {
-        if (marker->frame() < firstFrame || marker->frame() > lastFrame)
-            m_attached.removeAll(marker);
-    }
+    const QList<MvMemoryMarker*>& attached = state().attached;
+    const auto outside
+        = [&](const MvMemoryMarker* marker) { return marker->frame() < firstFrame || marker->frame() > lastFrame; };
+    if (std::none_of(attached.cbegin(), attached.cend(), outside))
+        return;
+    auto value = change();
+    value->attached.erase(
+        std::remove_if(value->attached.begin(), value->attached.end(), outside), value->attached.end());
 }
 
 void MvMemoryMarkerList::shiftFrames(qint64 delta)
 {
-    for (MvMemoryMarker* marker : qAsConst(m_attached)) {
-        MvMemoryMarker::State state = marker->state();
-        state.frame += delta;
-        marker->restore(state);
-    }
+    if (delta == 0)
+        return;
+    for (MvMemoryMarker* marker : state().attached)
+        marker->change()->frame += delta;
 }
 
 void MvMemoryMarkerList::markerEdit(MvMemoryMarker* marker, const char* operation, const MvMemoryMarker::State& state)
@@ -221,7 +223,9 @@ void MvMemoryMarkerList::markerEdit(MvMemoryMarker* marker, const char* operatio
     MvMemoryTimeline::Edit edit(m_timeline, operation, QStringLiteral("edit marker"));
     if (!contains(marker) || (m_clip && m_clip->trackImpl() && m_clip->trackImpl()->isLocked()))
         return;
-    marker->restore(state);
+    if (marker->state() == state)
+        return;
+    *marker->change() = state;
 }
 
 // ---- marker model

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "IMvMarker.h"
+#include "MvMemoryUndoable.h"
 
 #include <QColor>
 #include <QList>
@@ -9,22 +10,25 @@ class MvMemoryTimeline;
 class MvMemoryClip;
 class MvMemoryMarkerList;
 
-// A marker of the in-memory model. It lives as long as its list; removing it detaches it.
-class MVVBLMODEL_EXPORT MvMemoryMarker : public IMvMarker
+struct MvMemoryMarkerState
+{
+    qint64 frame = 0;
+    QColor color;
+    QString name;
+    QString comment;
+
+    bool operator==(const MvMemoryMarkerState& other) const
+    {
+        return frame == other.frame && color == other.color && name == other.name && comment == other.comment;
+    }
+};
+
+// A marker of the in-memory model. It lives as long as its list; removing it detaches it (the
+// list's value says which of its markers are attached).
+class MVVBLMODEL_EXPORT MvMemoryMarker : public IMvMarker, public MvMemoryValued<MvMemoryMarkerState>
 {
 public:
-    struct State
-    {
-        qint64 frame = 0;
-        QColor color;
-        QString name;
-        QString comment;
-
-        bool operator==(const State& other) const
-        {
-            return frame == other.frame && color == other.color && name == other.name && comment == other.comment;
-        }
-    };
+    using State = MvMemoryMarkerState;
 
     MvMemoryMarker(MvMemoryMarkerList* owner, const State& state);
 
@@ -37,28 +41,27 @@ public:
     void setName(const QString& name) override;
     void setComment(const QString& comment) override;
 
-    const State& state() const { return m_state; }
-    void restore(const State& state) { m_state = state; }
     bool isAttached() const;
+    QString undoLabel() const override;
 
 private:
     Q_DISABLE_COPY(MvMemoryMarker)
     MvMemoryMarkerList* m_owner;
-    State m_state;
+};
+
+struct MvMemoryMarkerListState
+{
+    QList<MvMemoryMarker*> attached; // ordered by frame
+
+    bool operator==(const MvMemoryMarkerListState& other) const { return attached == other.attached; }
 };
 
 // Markers of the whole timeline (own frames are timeline frames, range 0 .. duration) or of one
 // clip (own frames count from the clip's start, range start .. end). One marker per frame.
-class MVVBLMODEL_EXPORT MvMemoryMarkerList : public IMvMarkerList
+class MVVBLMODEL_EXPORT MvMemoryMarkerList : public IMvMarkerList, public MvMemoryValued<MvMemoryMarkerListState>
 {
 public:
-    struct State
-    {
-        QList<MvMemoryMarker*> attached; // ordered by frame
-        QList<MvMemoryMarker::State> markers; // one per marker ever created, in creation order
-
-        bool operator==(const State& other) const { return attached == other.attached && markers == other.markers; }
-    };
+    using State = MvMemoryMarkerListState;
 
     MvMemoryMarkerList(MvMemoryTimeline* timeline, MvMemoryClip* clip);
     ~MvMemoryMarkerList() override;
@@ -76,11 +79,9 @@ public:
     MvMemoryClip* clip() const { return m_clip; }
     // Adds a marker with a name, as one edit; null when refused.
     MvMemoryMarker* addNamedMarker(qint64 frame, const QColor& color, const QString& name);
-    QList<MvMemoryMarker*> attachedMarkers() const { return m_attached; }
+    QList<MvMemoryMarker*> attachedMarkers() const { return state().attached; }
     bool contains(const IMvMarker* marker) const;
-
-    State state() const;
-    void restore(const State& state);
+    QString undoLabel() const override;
 
     // Piece work for split and trim, called inside an edit of the owner clip: markers at own
     // frames >= offset move into target (rebased), markers outside 0 .. lastFrame are dropped.
@@ -95,10 +96,12 @@ private:
     Q_DISABLE_COPY(MvMemoryMarkerList)
     MvMemoryMarker* insert(qint64 frame, const QColor& color, const QString& name);
 
+    // The first attached marker at or after an own frame.
+    QList<MvMemoryMarker*>::const_iterator firstFrom(qint64 frame) const;
+
     MvMemoryTimeline* m_timeline;
     MvMemoryClip* m_clip;
-    QList<MvMemoryMarker*> m_all;
-    QList<MvMemoryMarker*> m_attached;
+    QList<MvMemoryMarker*> m_all; // every marker made in this list, attached or not
 };
 
 // Which marker is selected, on the timeline or on any clip. Selection, not an undoable edit.

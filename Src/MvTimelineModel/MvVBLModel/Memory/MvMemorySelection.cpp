@@ -3,6 +3,8 @@
 #include "IMvAbstractClip.h"
 #include "MvMemoryTimeline.h"
 
+#include <algorithm>
+
 MvMemorySelection::MvMemorySelection(MvMemoryTimeline* timeline)
     : m_timeline(timeline)
 {
@@ -21,8 +23,12 @@ void MvMemorySelection::select(const QList<IMvClip*>& clips)
 void MvMemorySelection::selectItems(const QList<IMvAbstractClip*>& items)
 {
     m_items.clear();
+    m_marks = MvMemoryMarks();
+    m_items.reserve(items.size());
     for (IMvAbstractClip* item : items) {
-        if (m_timeline->isLive(item) && !m_items.contains(item))
+        bool live = false;
+        const MvMemoryUndoable* own = m_timeline->ownItem(item, &live);
+        if (live && !m_marks.mark(own->undoSerial()))
             m_items.append(item);
     }
 }
@@ -30,6 +36,7 @@ void MvMemorySelection::selectItems(const QList<IMvAbstractClip*>& items)
 void MvMemorySelection::clear()
 {
     m_items.clear();
+    m_marks = MvMemoryMarks();
 }
 
 int MvMemorySelection::count() const
@@ -72,14 +79,38 @@ void MvMemorySelection::setTimelineSelected(bool selected)
     m_timelineSelected = selected;
 }
 
-bool MvMemorySelection::prune()
+bool MvMemorySelection::prune(const QList<const IMvAbstractClip*>& candidates)
 {
-    const int before = m_items.size();
-    for (int i = m_items.size() - 1; i >= 0; --i) {
-        if (!m_timeline->isLive(m_items.at(i)))
-            m_items.removeAt(i);
+    MvMemoryMarks gone;
+    bool any = false;
+    for (const IMvAbstractClip* item : candidates) {
+        bool live = false;
+        const MvMemoryUndoable* own = m_timeline->ownItem(item, &live);
+        if (own && !live && m_marks.isMarked(own->undoSerial())) {
+            gone.mark(own->undoSerial());
+            m_marks.unmark(own->undoSerial());
+            any = true;
+        }
     }
-    return m_items.size() != before;
+    if (!any)
+        return false;
+    m_items.erase(std::remove_if(m_items.begin(), m_items.end(),
+                      [this, &gone](const IMvAbstractClip* item) {
+                          const MvMemoryUndoable* own = m_timeline->ownItem(item);
+                          return own && gone.isMarked(own->undoSerial());
+                      }),
+        m_items.end());
+    return true;
+}
+
+void MvMemorySelection::setItemsUnchecked(const QList<IMvAbstractClip*>& items)
+{
+    m_items = items;
+    m_marks = MvMemoryMarks();
+    for (const IMvAbstractClip* item : items) {
+        if (const MvMemoryUndoable* own = m_timeline->ownItem(item))
+            m_marks.mark(own->undoSerial());
+    }
 }
 
 bool MvMemorySubItemSelection::selectedId(int& id) const

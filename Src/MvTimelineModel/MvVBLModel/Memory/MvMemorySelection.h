@@ -1,6 +1,7 @@
 #pragma once
 
 #include "IMvSelection.h"
+#include "MvMemoryMarks.h"
 
 class MvMemoryTimeline;
 
@@ -22,14 +23,16 @@ public:
     bool isTimelineSelected() const override;
     void setTimelineSelected(bool selected) override;
 
-    // Drops items that are no longer on the timeline; true when something was dropped.
-    bool prune();
+    // Drops those of the candidates (what an edit or undo changed) that are selected and no longer
+    // on the timeline; true when something was dropped.
+    bool prune(const QList<const IMvAbstractClip*>& candidates);
     // For invariant tests: stores items without any check.
-    void setItemsUnchecked(const QList<IMvAbstractClip*>& items) { m_items = items; }
+    void setItemsUnchecked(const QList<IMvAbstractClip*>& items);
 
 private:
     MvMemoryTimeline* m_timeline;
     QList<IMvAbstractClip*> m_items;
+    MvMemoryMarks m_marks; // the same items by their undo serial, for lookups
     bool m_timelineSelected = false;
 };
 

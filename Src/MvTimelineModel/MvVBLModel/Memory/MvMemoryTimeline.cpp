@@ -11,6 +11,8 @@
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
 
+#include <QHash>
+
 #include <limits>
 
 using namespace MVVBLMODEL;
@@ -28,9 +30,31 @@ MvMemoryTimeline::Edit::~Edit()
     m_timeline->d_func()->undo->endStep();
 }
 
+MvMemoryTimelineValues::MvMemoryTimelineValues(MvMemoryUndoRecorder* recorder)
+    : MvMemoryValued<MvMemoryTimelineState>(recorder, MvMemoryTimelineState())
+{
+}
+
+QString MvMemoryTimelineValues::undoLabel() const
+{
+    return QStringLiteral("timeline");
+}
+
+void MvMemoryTimelineValues::valueChanged()
+{
+    for (MvMemoryTrack* track : qAsConst(m_numbered))
+        track->setRow(-1);
+    m_numbered = state().rows;
+    for (int row = 0; row < m_numbered.size(); ++row)
+        m_numbered.at(row)->setRow(row);
+}
+
 MvMemoryTimelinePrivate::MvMemoryTimelinePrivate(MvMemoryTimeline* q, int timelineKind)
     : q_ptr(q)
     , kind(timelineKind)
+    , recorder(new MvMemoryUndoRecorder)
+    , values(new MvMemoryTimelineValues(recorder))
+    , groups(new MvMemoryGroups(recorder))
 {
 }
 
@@ -47,65 +71,41 @@ MvMemoryTimelinePrivate::~MvMemoryTimelinePrivate()
     delete selection;
     delete playhead;
     delete undo;
+    delete groups;
     qDeleteAll(allTransitions);
     qDeleteAll(allClips);
     qDeleteAll(allTracks);
+    delete values;
+    delete recorder;
 }
 
-MvMemoryModelState MvMemoryTimelinePrivate::capture() const
+MvMemoryClip* MvMemoryTimelinePrivate::makeClip(const MvMemoryClip::State& state)
 {
-    MvMemoryModelState state;
-    state.trackOrder = tracks;
-    state.tracks.reserve(allTracks.size());
-    for (const MvMemoryTrack* track : allTracks)
-        state.tracks.append(track->state());
-    state.clips.reserve(allClips.size());
-    for (const MvMemoryClip* clip : allClips)
-        state.clips.append(clip->state());
-    state.transitions.reserve(allTransitions.size());
-    for (const MvMemoryTransition* transition : allTransitions)
-        state.transitions.append(transition->state());
-    state.groups = groups;
-    state.timelineMarkers = timelineMarkers->state();
-    return state;
-}
-
-void MvMemoryTimelinePrivate::restore(const MvMemoryModelState& state)
-{
-    // Objects created after the capture did not exist then: they go back to being detached.
-    tracks = state.trackOrder;
-    for (int i = 0; i < allTracks.size(); ++i) {
-        if (i < state.tracks.size())
-            allTracks[i]->restore(state.tracks.at(i));
-        else
-            allTracks[i]->restore(MvMemoryTrack::State { allTracks[i]->type(), false, {} });
-    }
-    for (int i = 0; i < allClips.size(); ++i) {
-        if (i < state.clips.size()) {
-            allClips[i]->restore(state.clips.at(i));
-        } else {
-            MvMemoryClip::State detached = allClips[i]->state();
-            detached.track = nullptr;
-            allClips[i]->restore(detached);
-        }
-    }
-    for (int i = 0; i < allTransitions.size(); ++i) {
-        if (i < state.transitions.size()) {
-            allTransitions[i]->restore(state.transitions.at(i));
-        } else {
-            MvMemoryTransition::State detached = allTransitions[i]->state();
-            detached.attached = false;
-            allTransitions[i]->restore(detached);
-        }
-    }
-    groups = state.groups;
-    timelineMarkers->restore(state.timelineMarkers);
-    afterChange();
+    Q_Q(MvMemoryTimeline);
+    auto* clip = new MvMemoryClip(q, allClips.size(), state);
+    allClips.append(clip);
+    return clip;
 }
 
 void MvMemoryTimelinePrivate::afterChange()
 {
-    selection->prune();
+    const std::vector<MvMemoryUndoable*> changed = recorder->takeChanged();
+    if (!selection->isEmpty()) {
+        // Only what changed can have left the timeline: a clip and the transitions riding on it,
+        // or a transition itself.
+        QList<const IMvAbstractClip*> candidates;
+        for (MvMemoryUndoable* object : changed) {
+            if (const auto* clip = dynamic_cast<const MvMemoryClip*>(object)) {
+                candidates.append(clip);
+                const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
+                for (const MvMemoryTransition* transition : transitions)
+                    candidates.append(transition);
+            } else if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(object)) {
+                candidates.append(transition);
+            }
+        }
+        selection->prune(candidates);
+    }
     keyFrameSelector->prune();
     const qint64 now = q_ptr->duration();
     if (now != knownDuration) {
@@ -116,56 +116,61 @@ void MvMemoryTimelinePrivate::afterChange()
     }
 }
 
-namespace {
-// What a viewer sees or hears of a clip: everything but its markers.
-bool rendersAlike(MvMemoryClip::State a, MvMemoryClip::State b)
-{
-    a.markers = {};
-    b.markers = {};
-    return a == b;
-}
-}
-
-void MvMemoryTimelinePrivate::modelChanged(const MvMemoryModelState& from, const MvMemoryModelState& to)
+void MvMemoryTimelinePrivate::modelChanged(const MvMemoryUndoRecorder::Step& step)
 {
     playhead->timelineEdited();
-    markChangedFramesUnrendered(from, to);
+    markChangedFramesUnrendered(step);
     const QList<std::function<void()>> listeners = changeListeners;
     for (const std::function<void()>& listener : listeners)
         listener();
 }
 
-void MvMemoryTimelinePrivate::markChangedFramesUnrendered(const MvMemoryModelState& from, const MvMemoryModelState& to)
+// What a viewer sees or hears changed where a clip's value changed (markers are no part of it),
+// and over the clip a changed transition rides on, before and after. The step is read in both
+// directions alike: undo and redo mark the same frames.
+void MvMemoryTimelinePrivate::markChangedFramesUnrendered(const MvMemoryUndoRecorder::Step& step)
 {
     auto* render = dynamic_cast<MvMemoryRenderService*>(renderService);
     if (!render)
         return;
     qint64 first = std::numeric_limits<qint64>::max();
     qint64 last = -1;
-    auto cover = [&](const MvMemoryClip::State* state) {
-        if (state && state->track) {
-            first = qMin(first, state->start);
-            last = qMax(last, state->end);
+    auto cover = [&](const MvMemoryClip::State& state) {
+        if (state.track) {
+            first = qMin(first, state.start);
+            last = qMax(last, state.end);
         }
     };
-    const int clipCount = qMax(from.clips.size(), to.clips.size());
-    for (int i = 0; i < clipCount; ++i) {
-        const MvMemoryClip::State* before = i < from.clips.size() ? &from.clips.at(i) : nullptr;
-        const MvMemoryClip::State* after = i < to.clips.size() ? &to.clips.at(i) : nullptr;
-        if (!before || !after || !rendersAlike(*before, *after)) {
-            cover(before);
-            cover(after);
+    std::vector<const MvMemoryUndoRecorder::Change*> transitionChanges;
+    for (const MvMemoryUndoRecorder::Change& change : step) {
+        if (dynamic_cast<const MvMemoryTransition*>(change.object)) {
+            transitionChanges.push_back(&change);
+        } else if (dynamic_cast<const MvMemoryClip*>(change.object)) {
+            const MvMemoryClip::State& before = MvMemoryClip::stateOf(*change.before);
+            const MvMemoryClip::State& after = MvMemoryClip::stateOf(*change.after);
+            if (before != after) {
+                cover(before);
+                cover(after);
+            }
         }
     }
-    const int transitionCount = qMin(from.transitions.size(), to.transitions.size());
-    for (int i = 0; i < qMax(from.transitions.size(), to.transitions.size()); ++i) {
-        if (i < transitionCount && from.transitions.at(i) == to.transitions.at(i))
-            continue;
-        for (const MvMemoryModelState* state : { &from, &to }) {
-            if (i < state->transitions.size() && state->transitions.at(i).owner) {
-                const int owner = allClips.indexOf(state->transitions.at(i).owner);
-                cover(owner >= 0 && owner < state->clips.size() ? &state->clips.at(owner) : nullptr);
-            }
+    if (transitionChanges.empty()) {
+        if (last >= first)
+            render->markUnfinished(first, last);
+        return;
+    }
+    // A transition covers its owner as the owner stood on the same side of the step.
+    QHash<const MvMemoryUndoable*, const MvMemoryUndoRecorder::Change*> clipChanges;
+    for (const MvMemoryUndoRecorder::Change& change : step)
+        clipChanges.insert(change.object, &change);
+    for (const MvMemoryUndoRecorder::Change* change : transitionChanges) {
+        for (bool afterSide : { false, true }) {
+            const MvMemoryClip* owner = MvMemoryTransition::stateOf(afterSide ? *change->after : *change->before).owner;
+            const MvMemoryUndoRecorder::Change* ownerChange = clipChanges.value(owner);
+            if (ownerChange)
+                cover(MvMemoryClip::stateOf(afterSide ? *ownerChange->after : *ownerChange->before));
+            else if (owner)
+                cover(owner->state());
         }
     }
     if (last >= first)
@@ -188,7 +193,10 @@ void MvMemoryTimelinePrivate::build(const char* operation, const QString& stepNa
         undo->endStep();
         return;
     }
-    work();
+    {
+        MvMemoryUndoRecorder::Building building(recorder);
+        work();
+    }
     afterChange();
     undo->clear();
 }
@@ -197,9 +205,9 @@ MvMemoryTimeline::MvMemoryTimeline(int kind)
     : d_ptr(new MvMemoryTimelinePrivate(this, kind))
 {
     Q_D(MvMemoryTimeline);
-    d->undo = new MvMemoryUndoService([d] { return d->capture(); },
-        [d](const MvMemoryModelState& state) { d->restore(state); },
-        [d](const MvMemoryModelState& from, const MvMemoryModelState& to) { d->modelChanged(from, to); });
+    d->undo = new MvMemoryUndoService(
+        d->recorder, [d] { d->afterChange(); },
+        [d](const MvMemoryUndoRecorder::Step& changes) { d->modelChanged(changes); });
     d->playhead = new MvMemoryPlayhead(this);
     d->selection = new MvMemorySelection(this);
     d->subItemSelection = new MvMemorySubItemSelection;
@@ -225,18 +233,15 @@ qint64 MvMemoryTimeline::duration() const
 {
     Q_D(const MvMemoryTimeline);
     qint64 last = -1;
-    for (const MvMemoryTrack* track : d->tracks) {
-        const QList<MvMemoryClip*> clips = track->memoryClips();
-        for (const MvMemoryClip* clip : clips)
-            last = qMax(last, clip->end());
-    }
+    for (const MvMemoryTrack* track : d->rows())
+        last = qMax(last, track->lastEnd());
     return last + 1;
 }
 
 int MvMemoryTimeline::trackCount() const
 {
     Q_D(const MvMemoryTimeline);
-    return d->tracks.size();
+    return d->rows().size();
 }
 
 IMvTrack* MvMemoryTimeline::trackAt(int index) const
@@ -247,14 +252,14 @@ IMvTrack* MvMemoryTimeline::trackAt(int index) const
 MvMemoryTrack* MvMemoryTimeline::memoryTrack(int index) const
 {
     Q_D(const MvMemoryTimeline);
-    return index >= 0 && index < d->tracks.size() ? d->tracks.at(index) : nullptr;
+    return index >= 0 && index < d->rows().size() ? d->rows().at(index) : nullptr;
 }
 
 // The bounds of vertical moves: the top picture row and the bottom audio row.
 IMvTrack* MvMemoryTimeline::firstTrackOfType(MvTrackType type) const
 {
     Q_D(const MvMemoryTimeline);
-    for (MvMemoryTrack* track : d->tracks) {
+    for (MvMemoryTrack* track : d->rows()) {
         if (track->type() == type)
             return track;
     }
@@ -264,9 +269,10 @@ IMvTrack* MvMemoryTimeline::firstTrackOfType(MvTrackType type) const
 IMvTrack* MvMemoryTimeline::lastTrackOfType(MvTrackType type) const
 {
     Q_D(const MvMemoryTimeline);
-    for (int i = d->tracks.size() - 1; i >= 0; --i) {
-        if (d->tracks.at(i)->type() == type)
-            return d->tracks.at(i);
+    const QList<MvMemoryTrack*>& rows = d->rows();
+    for (int i = rows.size() - 1; i >= 0; --i) {
+        if (rows.at(i)->type() == type)
+            return rows.at(i);
     }
     return nullptr;
 }
@@ -412,13 +418,14 @@ MvMemoryTrack* MvMemoryTimeline::addTrack(MvTrackType type)
     d->allTracks.append(track);
     d->build("addTrack", QStringLiteral("add track"), [d, track, type] {
         // Picture rows stay on top of the audio rows.
-        int at = d->tracks.size();
+        auto value = d->values->change();
+        int at = value->rows.size();
         if (type == TrackType_Picture) {
             at = 0;
-            while (at < d->tracks.size() && d->tracks.at(at)->type() == TrackType_Picture)
+            while (at < value->rows.size() && value->rows.at(at)->type() == TrackType_Picture)
                 ++at;
         }
-        d->tracks.insert(at, track);
+        value->rows.insert(at, track);
     });
     return track;
 }
@@ -429,22 +436,15 @@ MvMemoryClip* MvMemoryTimeline::addClip(int trackIndex, MvClipType type, qint64 
     MvMemoryTrack* track = memoryTrack(trackIndex);
     if (!track || !track->accepts(type) || start < 0 || end < start)
         return nullptr;
-    const QList<MvMemoryClip*> present = track->memoryClips();
-    for (const MvMemoryClip* other : present) {
-        if (other->start() <= end && start <= other->end())
-            return nullptr;
-    }
+    if (!track->clipsMeeting(start, end).isEmpty())
+        return nullptr;
     MvMemoryClip::State state;
     state.type = type;
     state.start = start;
     state.end = end;
     state.name = name;
-    auto* clip = new MvMemoryClip(this, state);
-    d->allClips.append(clip);
-    d->build("addClip", QStringLiteral("add clip"), [track, clip] {
-        clip->mutableState().track = track;
-        track->insertSorted(clip);
-    });
+    MvMemoryClip* clip = d->makeClip(state);
+    d->build("addClip", QStringLiteral("add clip"), [track, clip] { clip->change()->track = track; });
     return clip;
 }
 
@@ -467,13 +467,10 @@ MvMemoryTransition* MvMemoryTimeline::addTransition(
     state.length = length;
     state.name = name;
     state.attached = false;
-    auto* transition = new MvMemoryTransition(nextTransitionIdentifier(), state);
+    auto* transition = new MvMemoryTransition(this, nextTransitionIdentifier(), state);
     d->allTransitions.append(transition);
-    d->build("addTransition", QStringLiteral("add transition"), [transition] {
-        MvMemoryTransition::State attached = transition->state();
-        attached.attached = true;
-        transition->restore(attached);
-    });
+    d->build(
+        "addTransition", QStringLiteral("add transition"), [transition] { transition->change()->attached = true; });
     return transition;
 }
 
@@ -528,6 +525,12 @@ MvMemoryUndoService* MvMemoryTimeline::undoService() const
     return d->undo;
 }
 
+MvMemoryUndoRecorder* MvMemoryTimeline::undoRecorder() const
+{
+    Q_D(const MvMemoryTimeline);
+    return d->recorder;
+}
+
 MvMemorySelection* MvMemoryTimeline::selectionImpl() const
 {
     Q_D(const MvMemoryTimeline);
@@ -574,7 +577,7 @@ QList<MvMemoryClip*> MvMemoryTimeline::liveClips() const
 {
     Q_D(const MvMemoryTimeline);
     QList<MvMemoryClip*> clips;
-    for (const MvMemoryTrack* track : d->tracks)
+    for (const MvMemoryTrack* track : d->rows())
         clips += track->memoryClips();
     return clips;
 }
@@ -588,48 +591,59 @@ QList<MvMemoryClip*> MvMemoryTimeline::allClips() const
 QList<MvMemoryGroup> MvMemoryTimeline::groups() const
 {
     Q_D(const MvMemoryTimeline);
+    return d->groups->liveGroups();
+}
+
+MvMemoryGroups* MvMemoryTimeline::groupsImpl() const
+{
+    Q_D(const MvMemoryTimeline);
     return d->groups;
 }
 
 int MvMemoryTimeline::indexOfTrack(const MvMemoryTrack* track) const
 {
-    Q_D(const MvMemoryTimeline);
-    return d->tracks.indexOf(const_cast<MvMemoryTrack*>(track));
+    return track && track->timeline() == this ? track->index() : -1;
 }
 
 int MvMemoryTimeline::groupKindOf(const MvMemoryClip* clip) const
 {
     Q_D(const MvMemoryTimeline);
-    for (const MvMemoryGroup& group : d->groups) {
-        if (group.members.contains(const_cast<MvMemoryClip*>(clip)))
-            return group.kind;
-    }
-    return 0;
+    const MvMemoryClipGroup* group = d->groups->groupOf(clip);
+    return group ? group->state().kind : 0;
 }
 
 QList<MvMemoryClip*> MvMemoryTimeline::groupMembers(const MvMemoryClip* clip) const
 {
     Q_D(const MvMemoryTimeline);
-    for (const MvMemoryGroup& group : d->groups) {
-        if (group.members.contains(const_cast<MvMemoryClip*>(clip)))
-            return group.members;
-    }
-    return {};
-}
-
-void MvMemoryTimeline::setGroups(const QList<MvMemoryGroup>& groups)
-{
-    Q_D(MvMemoryTimeline);
-    d->groups = groups;
+    const MvMemoryClipGroup* group = d->groups->groupOf(clip);
+    return group ? group->state().members : QList<MvMemoryClip*>();
 }
 
 bool MvMemoryTimeline::isLive(const IMvAbstractClip* item) const
 {
-    if (const auto* clip = dynamic_cast<const MvMemoryClip*>(item))
-        return clip->timeline() == this && clip->isOnTimeline();
-    if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(item))
-        return transition->owner() && transition->owner()->timeline() == this && transition->isLive();
-    return false;
+    bool live = false;
+    ownItem(item, &live);
+    return live;
+}
+
+const MvMemoryUndoable* MvMemoryTimeline::ownItem(const IMvAbstractClip* item, bool* live) const
+{
+    const MvMemoryUndoable* own = nullptr;
+    bool onTimeline = false;
+    if (const auto* clip = dynamic_cast<const MvMemoryClip*>(item)) {
+        if (clip->timeline() == this) {
+            own = clip;
+            onTimeline = clip->isOnTimeline();
+        }
+    } else if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(item)) {
+        if (transition->owner() && transition->owner()->timeline() == this) {
+            own = transition;
+            onTimeline = transition->isLive();
+        }
+    }
+    if (live)
+        *live = onTimeline;
+    return own;
 }
 
 bool MvMemoryTimeline::isLiveMarker(const IMvMarker* marker) const
@@ -645,19 +659,4 @@ MvMemoryClip* MvMemoryTimeline::memoryClip(IMvClip* clip) const
 {
     auto* own = dynamic_cast<MvMemoryClip*>(clip);
     return own && own->timeline() == this ? own : nullptr;
-}
-
-QList<MvMemoryTransition*> MvMemoryTimeline::transitionsOf(const MvMemoryClip* clip) const
-{
-    Q_D(const MvMemoryTimeline);
-    QList<MvMemoryTransition*> found;
-    for (MvMemoryTransition* transition : d->allTransitions) {
-        if (transition->owner() == clip && transition->state().attached) {
-            if (transition->placement() == IMvTransition::AtStart)
-                found.prepend(transition);
-            else
-                found.append(transition);
-        }
-    }
-    return found;
 }

@@ -3,7 +3,9 @@
 #include <functional>
 
 #include "IMvTimeline.h"
-#include "MvMemoryModelState.h"
+#include "MvMemoryClip.h"
+#include "MvMemoryGroups.h"
+#include "MvMemoryTrack.h"
 
 #include <QScopedPointer>
 #include <QStringList>
@@ -19,6 +21,7 @@ class MvMemoryRuler;
 class MvMemorySelection;
 class MvMemorySubItemSelection;
 class MvMemoryTimelinePrivate;
+class MvMemoryUndoRecorder;
 class MvMemoryUndoService;
 
 // A complete timeline held in memory: tracks, clips, transitions, groups, markers, keyframes,
@@ -35,7 +38,10 @@ class MvMemoryUndoService;
 // - building calls (addTrack, addClip, addTransition) made outside a step are not undoable: they
 //   clear the undo history, which no longer describes the model; inside a step they join it;
 // - selection, marker selection, keyframe selection, sub-item selection, playhead and row heights
-//   are view state and stay out of undo.
+//   are view state and stay out of undo;
+// - an undo step records the values of the objects it changed (see MvMemoryUndoRecorder.h).
+// Lookups (a row's clips by start, a clip's group, a clip's transitions) are kept up to date with
+// every change, so selections, moves, inserts and the edit rules cost at most n log n.
 class MVVBLMODEL_EXPORT MvMemoryTimeline : public IMvTimeline
 {
 public:
@@ -106,6 +112,7 @@ public:
     // Concrete objects.
     MvMemoryPlayhead* playheadImpl() const;
     MvMemoryUndoService* undoService() const;
+    MvMemoryUndoRecorder* undoRecorder() const;
     MvMemorySelection* selectionImpl() const;
     MvMemorySubItemSelection* subItemSelectionImpl() const;
     MvMemoryEditService* editServiceImpl() const;
@@ -121,7 +128,9 @@ public:
     QList<MvMemoryClip*> liveClips() const;
     // Every clip ever created, detached ones included, in creation order.
     QList<MvMemoryClip*> allClips() const;
+    // The groups now formed, in the order they were formed.
     QList<MvMemoryGroup> groups() const;
+    MvMemoryGroups* groupsImpl() const;
 
     // Checks and dumps for tests: empty when the model is consistent, else what is wrong.
     QString checkInvariants() const;
@@ -131,13 +140,13 @@ public:
     int indexOfTrack(const MvMemoryTrack* track) const;
     int groupKindOf(const MvMemoryClip* clip) const;
     QList<MvMemoryClip*> groupMembers(const MvMemoryClip* clip) const;
-    void setGroups(const QList<MvMemoryGroup>& groups); // inside an Edit
     bool isLive(const IMvAbstractClip* item) const;
+    // A clip or transition of this timeline as its undoable object (null for anything else), and
+    // whether it is on the timeline.
+    const MvMemoryUndoable* ownItem(const IMvAbstractClip* item, bool* live = nullptr) const;
     bool isLiveMarker(const IMvMarker* marker) const;
     MvMemoryClip* memoryClip(IMvClip* clip) const; // null unless the clip is this timeline's
     int nextTransitionIdentifier();
-    // Attached transitions of a clip, the start one first.
-    QList<MvMemoryTransition*> transitionsOf(const MvMemoryClip* clip) const;
 
 protected:
     // Factory of the render service, so a test host can put its own in place.

@@ -1,4 +1,6 @@
-// Consistency check and full-state dump of the in-memory timeline, for tests and the demo log.
+// Consistency check and full-state dump of the in-memory timeline, for tests and the demo log. The
+// dump shows every value undo restores of what is on the timeline; a value it left out would let
+// every undo test pass without checking it.
 #include "IMvTimelineRuler.h"
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
@@ -22,8 +24,10 @@ QString keysText(const MvKeyFrameMap& keys)
     QStringList parts;
     for (auto it = keys.cbegin(); it != keys.cend(); ++it) {
         QStringList properties;
-        for (const MVVBLMODEL::MvEffectPropertyBaseInfo& info : it.value())
-            properties.append(num(info.group) % QLatin1Char(':') % num(info.propertyId));
+        for (const MVVBLMODEL::MvEffectPropertyBaseInfo& info : it.value()) {
+            properties.append(num(info.group) % QLatin1Char(':') % num(info.propertyId) % QLatin1String(" \"")
+                % info.name % QLatin1String("\" flag=") % num(info.flag) % QLatin1String(" index=") % num(info.index));
+        }
         parts.append(num(it.key()) % QLatin1Char('{') % properties.join(QLatin1Char(',')) % QLatin1Char('}'));
     }
     return parts.join(QLatin1Char(' '));
@@ -34,8 +38,8 @@ QString markersText(const MvMemoryMarkerList* list)
     QStringList parts;
     const QList<MvMemoryMarker*> markers = list->attachedMarkers();
     for (const MvMemoryMarker* marker : markers) {
-        parts.append(num(marker->frame()) % QLatin1Char(' ') % marker->color().name() % QLatin1String(" \"")
-            % marker->name() % QLatin1String("\" \"") % marker->comment() % QLatin1Char('"'));
+        parts.append(num(marker->frame()) % QLatin1Char(' ') % marker->color().name(QColor::HexArgb)
+            % QLatin1String(" \"") % marker->name() % QLatin1String("\" \"") % marker->comment() % QLatin1Char('"'));
     }
     return parts.join(QLatin1String("; "));
 }
@@ -63,14 +67,14 @@ QString MvMemoryTimelinePrivate::clipId(const MvMemoryClip* clip) const
 {
     if (!clip)
         return QStringLiteral("-");
-    return QLatin1Char('c') % num(allClips.indexOf(const_cast<MvMemoryClip*>(clip)));
+    return QLatin1Char('c') % num(clip->number());
 }
 
 void MvMemoryTimelinePrivate::checkTracks(QStringList& problems) const
 {
     bool audioSeen = false;
-    for (int row = 0; row < tracks.size(); ++row) {
-        const MvMemoryTrack* track = tracks.at(row);
+    for (int row = 0; row < rows().size(); ++row) {
+        const MvMemoryTrack* track = rows().at(row);
         const QString name = QLatin1String("track ") % num(row);
         if (track->index() != row)
             problems.append(name % QLatin1String(": index() disagrees"));
@@ -96,30 +100,34 @@ void MvMemoryTimelinePrivate::checkTracks(QStringList& problems) const
 
 void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
 {
-    QSet<const MvMemoryClip*> grouped;
     for (const MvMemoryClip* clip : allClips) {
-        if (clip->isOnTimeline() && !clip->trackImpl()->memoryClips().contains(const_cast<MvMemoryClip*>(clip)))
+        if (clip->isOnTimeline() && !clip->trackImpl()->holds(clip))
             problems.append(clipId(clip) % QLatin1String(": not in its track's list"));
-        if (clip->isOnTimeline() && !tracks.contains(clip->trackImpl()))
+        if (clip->isOnTimeline() && clip->trackImpl()->index() < 0)
             problems.append(clipId(clip) % QLatin1String(": on a track that is not on the timeline"));
         if (!clip->isOnTimeline())
             continue;
         const qint64 last = clip->frameCount() - 1;
-        for (bool audio : { false, true }) {
-            const QList<qint64> keys = clip->keyFrames(audio);
-            if (!keys.isEmpty() && (keys.first() < 0 || keys.last() > last))
+        for (const MvKeyFrameMap* keys : { &clip->state().videoKeys, &clip->state().audioKeys }) {
+            if (!keys->isEmpty() && (keys->firstKey() < 0 || keys->lastKey() > last))
                 problems.append(clipId(clip) % QLatin1String(": keyframe off the clip"));
         }
-        const QList<int> ids = clip->state().freezeFrames.keys();
-        for (int id : ids) {
-            if (clip->freezeFrameAt(id) < 0 || clip->freezeFrameAt(id) > last)
+        const QMap<int, qint64>& freezeFrames = clip->state().freezeFrames;
+        for (auto it = freezeFrames.cbegin(); it != freezeFrames.cend(); ++it) {
+            if (it.value() < 0 || it.value() > last)
                 problems.append(clipId(clip) % QLatin1String(": freeze frame off the clip"));
         }
-        if (!MvMemoryClip::hasPicture(clip->type()) && !ids.isEmpty())
+        if (!MvMemoryClip::hasPicture(clip->type()) && !freezeFrames.isEmpty())
             problems.append(clipId(clip) % QLatin1String(": freeze frame on a clip without picture"));
         checkMarkers(clip->markerList(), clipId(clip), false, problems);
     }
-    for (const MvMemoryGroup& group : groups) {
+}
+
+void MvMemoryTimelinePrivate::checkGroupsAndTransitions(QStringList& problems) const
+{
+    QSet<const MvMemoryClip*> grouped;
+    const QList<MvMemoryGroup> live = groups->liveGroups();
+    for (const MvMemoryGroup& group : live) {
         if (group.members.size() < 2)
             problems.append(QStringLiteral("a group with fewer than two members"));
         for (const MvMemoryClip* member : group.members) {
@@ -127,15 +135,21 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
                 problems.append(clipId(member) % QLatin1String(": grouped but not on the timeline"));
             if (grouped.contains(member))
                 problems.append(clipId(member) % QLatin1String(": in two groups"));
+            else if (!groups->groupOf(member) || groups->groupOf(member)->state().members != group.members)
+                problems.append(clipId(member) % QLatin1String(": its group lookup disagrees"));
             grouped.insert(member);
         }
     }
     for (const MvMemoryTransition* transition : allTransitions) {
+        const QString name = QLatin1String("transition ") % num(transition->identifier());
+        const bool listed = transition->owner()
+            && transition->owner()->liveTransitions().contains(const_cast<MvMemoryTransition*>(transition));
+        if (listed != (transition->state().attached && transition->owner()))
+            problems.append(name % QLatin1String(": its owner's list disagrees"));
         if (!transition->isLive())
             continue;
         if (transition->length() < 1 || transition->length() > transition->owner()->frameCount())
-            problems.append(
-                QLatin1String("transition ") % num(transition->identifier()) % QLatin1String(": longer than its clip"));
+            problems.append(name % QLatin1String(": longer than its clip"));
     }
 }
 
@@ -143,11 +157,13 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
 {
     Q_Q(const MvMemoryTimeline);
     const QList<IMvAbstractClip*> items = selection->selectedItems();
-    for (int i = 0; i < items.size(); ++i) {
-        if (!q->isLive(items.at(i)))
+    QSet<const IMvAbstractClip*> seen;
+    for (const IMvAbstractClip* item : items) {
+        if (!q->isLive(item))
             problems.append(QStringLiteral("selection holds an item that is not on the timeline"));
-        if (items.indexOf(items.at(i)) != i)
+        if (seen.contains(item))
             problems.append(QStringLiteral("selection holds an item twice"));
+        seen.insert(item);
     }
     checkMarkers(timelineMarkers, QStringLiteral("timeline"), true, problems);
     const qint64 length = q->duration();
@@ -161,6 +177,7 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
     }
     if (undo->isStepOpen())
         problems.append(QStringLiteral("an undo step is left open"));
+    problems.append(recorder->problems());
 }
 
 QString MvMemoryTimeline::checkInvariants() const
@@ -169,6 +186,7 @@ QString MvMemoryTimeline::checkInvariants() const
     QStringList problems;
     d->checkTracks(problems);
     d->checkClips(problems);
+    d->checkGroupsAndTransitions(problems);
     d->checkItems(problems);
     return problems.join(QLatin1Char('\n'));
 }
@@ -176,13 +194,14 @@ QString MvMemoryTimeline::checkInvariants() const
 QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
 {
     Q_Q(const MvMemoryTimeline);
-    const MvMemoryClip::State state = clip->state();
+    const MvMemoryClip::State& state = clip->state();
     QString text = QLatin1String("  ") % clipId(clip) % QLatin1String(" type=") % num(state.type) % QLatin1String(" \"")
         % state.name % QLatin1String("\" ") % num(state.start) % QLatin1String("..") % num(state.end)
         % QLatin1String(" track=") % num(clip->trackIndex()) % QLatin1String(" group=") % num(q->groupKindOf(clip))
         % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=") % num(state.enabled)
         % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=") % num(state.tracking)
-        % QLatin1String(" nodes=") % num(state.smartKeying ? state.smartKeyingNodes : -1);
+        % QLatin1String(" smart keying=") % num(state.smartKeying) % QLatin1String(" nodes=")
+        % num(state.smartKeyingNodes);
     text += QLatin1String("\n    markers: ") % markersText(clip->markerList());
     text += QLatin1String("\n    video keys: ") % keysText(state.videoKeys);
     text += QLatin1String("\n    audio keys: ") % keysText(state.audioKeys);
@@ -205,15 +224,16 @@ QString MvMemoryTimeline::stateText() const
     QStringList lines;
     lines.append(
         QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ") % num(d->playhead->currentFrame()));
-    for (int row = 0; row < d->tracks.size(); ++row) {
-        const MvMemoryTrack* track = d->tracks.at(row);
+    for (int row = 0; row < d->rows().size(); ++row) {
+        const MvMemoryTrack* track = d->rows().at(row);
         lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
             % QLatin1String(" locked=") % num(track->isLocked()));
         const QList<MvMemoryClip*> clips = track->memoryClips();
         for (const MvMemoryClip* clip : clips)
             lines.append(d->clipText(clip));
     }
-    for (const MvMemoryGroup& group : d->groups) {
+    const QList<MvMemoryGroup> groups = d->groups->liveGroups();
+    for (const MvMemoryGroup& group : groups) {
         QStringList members;
         for (const MvMemoryClip* member : group.members)
             members.append(d->clipId(member));

@@ -1,4 +1,5 @@
 // The clip edits of the in-memory timeline: delete, ripple delete, move, split, trim, rotate.
+#include "MvMemoryMarks.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryTimeline_p.h"
 
@@ -11,13 +12,9 @@ namespace {
 template <typename Map> Map splitTail(Map& source, qint64 offset)
 {
     Map tail;
-    for (auto it = source.begin(); it != source.end();) {
-        if (it.key() >= offset) {
-            tail.insert(it.key() - offset, it.value());
-            it = source.erase(it);
-        } else {
-            ++it;
-        }
+    for (auto it = source.lowerBound(offset); it != source.end();) {
+        tail.insert(it.key() - offset, it.value());
+        it = source.erase(it);
     }
     return tail;
 }
@@ -26,10 +23,8 @@ template <typename Map> Map splitTail(Map& source, qint64 offset)
 MvKeyFrameMap keepRange(const MvKeyFrameMap& source, qint64 first, qint64 last)
 {
     MvKeyFrameMap kept;
-    for (auto it = source.cbegin(); it != source.cend(); ++it) {
-        if (it.key() >= first && it.key() <= last)
-            kept.insert(it.key() - first, it.value());
-    }
+    for (auto it = source.lowerBound(first); it != source.cend() && it.key() <= last; ++it)
+        kept.insert(it.key() - first, it.value());
     return kept;
 }
 
@@ -42,6 +37,11 @@ QMap<int, qint64> keepFreezeRange(const QMap<int, qint64>& source, qint64 first,
     }
     return kept;
 }
+
+bool endsEarlier(const MvMemoryClip* a, const MvMemoryClip* b)
+{
+    return a->end() < b->end();
+}
 }
 
 bool MvMemoryTimelinePrivate::editable(const MvMemoryClip* clip) const
@@ -53,14 +53,14 @@ QList<MvMemoryClip*> MvMemoryTimelinePrivate::liveClipsOf(const QList<IMvClip*>&
 {
     Q_Q(const MvMemoryTimeline);
     QList<MvMemoryClip*> live;
+    live.reserve(clips.size());
+    MvMemoryMarks seen(size_t(allClips.size()));
     bool all = true;
     for (IMvClip* clip : clips) {
         MvMemoryClip* own = q->memoryClip(clip);
-        if (!own || !own->isOnTimeline()) {
+        if (!own || !own->isOnTimeline())
             all = false;
-            continue;
-        }
-        if (!live.contains(own))
+        else if (!seen.mark(size_t(own->number())))
             live.append(own);
     }
     if (allLive)
@@ -70,21 +70,7 @@ QList<MvMemoryClip*> MvMemoryTimelinePrivate::liveClipsOf(const QList<IMvClip*>&
 
 void MvMemoryTimelinePrivate::detach(MvMemoryClip* clip)
 {
-    clip->trackImpl()->take(clip);
-    clip->mutableState().track = nullptr;
-}
-
-// Removed clips leave their groups; a group left with fewer than two members is dissolved.
-void MvMemoryTimelinePrivate::removeFromGroups(const QList<MvMemoryClip*>& clips)
-{
-    QList<MvMemoryGroup> kept;
-    for (MvMemoryGroup group : qAsConst(groups)) {
-        for (MvMemoryClip* clip : clips)
-            group.members.removeAll(clip);
-        if (group.members.size() >= 2)
-            kept.append(group);
-    }
-    groups = kept;
+    clip->change()->track = nullptr;
 }
 
 bool MvMemoryTimeline::deleteClips(QList<IMvClip*> clips)
@@ -101,47 +87,64 @@ bool MvMemoryTimeline::deleteClips(QList<IMvClip*> clips)
     }
     for (MvMemoryClip* clip : live)
         d->detach(clip);
-    d->removeFromGroups(live);
+    d->groups->removeMembers(live);
     return true;
 }
 
-// Each removed clip's length is taken out of its track: the clips after it move left.
+// Each removed clip's length is taken out of its track: a clip moves left by the lengths of the
+// removed clips that ended before it started.
+void MvMemoryTimelinePrivate::closeGaps(MvMemoryTrack* track, QList<MvMemoryClip*> removed)
+{
+    std::sort(removed.begin(), removed.end(), endsEarlier);
+    qint64 firstStart = removed.first()->start();
+    for (const MvMemoryClip* clip : qAsConst(removed))
+        firstStart = qMin(firstStart, clip->start());
+    const QList<MvMemoryClip*> following = track->clipsFrom(firstStart);
+    MvMemoryMarks gone(size_t(allClips.size()));
+    for (const MvMemoryClip* clip : qAsConst(removed))
+        gone.mark(size_t(clip->number()));
+    for (MvMemoryClip* clip : qAsConst(removed))
+        detach(clip);
+    int passed = 0;
+    qint64 shift = 0;
+    for (MvMemoryClip* clip : following) {
+        if (gone.isMarked(size_t(clip->number())))
+            continue;
+        while (passed < removed.size() && removed.at(passed)->end() < clip->start())
+            shift += removed.at(passed++)->frameCount();
+        if (shift == 0)
+            continue;
+        auto value = clip->change();
+        value->start -= shift;
+        value->end -= shift;
+    }
+}
+
 bool MvMemoryTimeline::rippleDeleteClips(QList<IMvClip*> clips)
 {
     Q_D(MvMemoryTimeline);
     Edit edit(this, "rippleDeleteClips", QStringLiteral("ripple delete clips"));
     bool allLive = false;
-    QList<MvMemoryClip*> live = d->liveClipsOf(clips, &allLive);
+    const QList<MvMemoryClip*> live = d->liveClipsOf(clips, &allLive);
     if (live.isEmpty() || !allLive)
         return false;
-    for (const MvMemoryClip* clip : qAsConst(live)) {
+    QHash<MvMemoryTrack*, QList<MvMemoryClip*>> byTrack;
+    for (MvMemoryClip* clip : live) {
         if (!d->editable(clip))
             return false;
+        byTrack[clip->trackImpl()].append(clip);
     }
-    // Latest first, so that each shift sees the positions the later removals left.
-    std::sort(
-        live.begin(), live.end(), [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() > b->start(); });
-    for (MvMemoryClip* removed : qAsConst(live)) {
-        MvMemoryTrack* track = removed->trackImpl();
-        const qint64 length = removed->frameCount();
-        const qint64 removedEnd = removed->end();
-        d->detach(removed);
-        const QList<MvMemoryClip*> rest = track->memoryClips();
-        for (MvMemoryClip* clip : rest) {
-            if (clip->start() > removedEnd) {
-                clip->mutableState().start -= length;
-                clip->mutableState().end -= length;
-            }
-        }
-    }
-    d->removeFromGroups(live);
+    for (auto it = byTrack.cbegin(); it != byTrack.cend(); ++it)
+        d->closeGaps(it.key(), it.value());
+    d->groups->removeMembers(live);
     return true;
 }
 
-bool MvMemoryTimelinePrivate::moveAllowed(
-    const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets, qint64 frameOffset) const
+// The moved clips may not overlap each other where they land, nor a clip that stays.
+bool MvMemoryTimelinePrivate::moveAllowed(const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets,
+    qint64 frameOffset, const MvMemoryMarks& moving) const
 {
-    QHash<MvMemoryTrack*, QList<QPair<qint64, qint64>>> spans;
+    QHash<MvMemoryTrack*, std::vector<std::pair<qint64, qint64>>> spans;
     for (int i = 0; i < clips.size(); ++i) {
         const MvMemoryClip* clip = clips.at(i);
         MvMemoryTrack* target = targets.at(i);
@@ -149,18 +152,16 @@ bool MvMemoryTimelinePrivate::moveAllowed(
             return false;
         if (clip->start() + frameOffset < 0)
             return false;
-        spans[target].append(qMakePair(clip->start() + frameOffset, clip->end() + frameOffset));
+        spans[target].emplace_back(clip->start() + frameOffset, clip->end() + frameOffset);
     }
+    const auto staying = [&moving](const MvMemoryClip* clip) { return !moving.isMarked(size_t(clip->number())); };
     for (auto it = spans.begin(); it != spans.end(); ++it) {
-        QList<QPair<qint64, qint64>> all = it.value();
-        const QList<MvMemoryClip*> staying = it.key()->memoryClips();
-        for (const MvMemoryClip* clip : staying) {
-            if (!clips.contains(const_cast<MvMemoryClip*>(clip)))
-                all.append(qMakePair(clip->start(), clip->end()));
-        }
-        std::sort(all.begin(), all.end());
-        for (int i = 1; i < all.size(); ++i) {
-            if (all.at(i).first <= all.at(i - 1).second)
+        std::vector<std::pair<qint64, qint64>>& landing = it.value();
+        std::sort(landing.begin(), landing.end());
+        for (size_t i = 0; i < landing.size(); ++i) {
+            if (i > 0 && landing[i].first <= landing[i - 1].second)
+                return false;
+            if (it.key()->anyClipMeeting(landing[i].first, landing[i].second, staying))
                 return false;
         }
     }
@@ -175,78 +176,70 @@ bool MvMemoryTimeline::moveClips(QList<IMvClip*> clips, QList<int> trackOffsets,
     Edit edit(this, "moveClips", QStringLiteral("move clips"));
     if (mode != 2 || clips.isEmpty() || clips.size() != trackOffsets.size())
         return false;
+    // A clip given twice moves once, by the track offset given with it first.
     QList<MvMemoryClip*> moving;
     QList<MvMemoryTrack*> targets;
+    MvMemoryMarks marks(size_t(d->allClips.size()));
     bool anyChange = frameOffset != 0;
     for (int i = 0; i < clips.size(); ++i) {
         MvMemoryClip* clip = memoryClip(clips.at(i));
         if (!clip || !clip->isOnTimeline())
             return false;
-        if (moving.contains(clip))
+        if (marks.mark(size_t(clip->number())))
             continue;
         moving.append(clip);
         targets.append(memoryTrack(clip->trackIndex() + trackOffsets.at(i)));
         anyChange = anyChange || trackOffsets.at(i) != 0;
     }
-    if (!anyChange || !d->moveAllowed(moving, targets, frameOffset))
+    if (!anyChange || !d->moveAllowed(moving, targets, frameOffset, marks))
         return false;
-    for (MvMemoryClip* clip : qAsConst(moving))
-        d->detach(clip);
     for (int i = 0; i < moving.size(); ++i) {
-        MvMemoryClip::State& state = moving[i]->mutableState();
-        state.start += frameOffset;
-        state.end += frameOffset;
-        state.track = targets.at(i);
-        targets.at(i)->insertSorted(moving.at(i));
+        auto value = moving.at(i)->change();
+        value->start += frameOffset;
+        value->end += frameOffset;
+        value->track = targets.at(i);
     }
     return true;
 }
 
 MvMemoryClip* MvMemoryTimelinePrivate::cutClip(MvMemoryClip* clip, qint64 frame)
 {
-    Q_Q(MvMemoryTimeline);
     const qint64 offset = frame - clip->start();
-    MvMemoryClip::State& source = clip->mutableState();
-    MvMemoryClip::State piece = source;
+    MvMemoryClip::State piece = clip->state();
     piece.start = frame;
     piece.track = nullptr;
     piece.follower = nullptr;
     // Smart-keying nodes belong to the effect set up on the source; the piece starts without.
     piece.smartKeying = false;
     piece.smartKeyingNodes = 0;
-    piece.markers = {};
-    piece.videoKeys = splitTail(source.videoKeys, offset);
-    piece.audioKeys = splitTail(source.audioKeys, offset);
-    piece.freezeFrames.clear();
-    for (auto it = source.freezeFrames.begin(); it != source.freezeFrames.end();) {
-        if (it.value() >= offset) {
-            piece.freezeFrames.insert(it.key(), it.value() - offset);
-            it = source.freezeFrames.erase(it);
-        } else {
-            ++it;
+    {
+        auto source = clip->change();
+        piece.videoKeys = splitTail(source->videoKeys, offset);
+        piece.audioKeys = splitTail(source->audioKeys, offset);
+        piece.freezeFrames.clear();
+        for (auto it = source->freezeFrames.begin(); it != source->freezeFrames.end();) {
+            if (it.value() >= offset) {
+                piece.freezeFrames.insert(it.key(), it.value() - offset);
+                it = source->freezeFrames.erase(it);
+            } else {
+                ++it;
+            }
         }
+        source->end = frame - 1;
     }
-    source.end = frame - 1;
 
-    auto* created = new MvMemoryClip(q, piece);
-    allClips.append(created);
-    created->mutableState().track = clip->trackImpl();
-    clip->trackImpl()->insertSorted(created);
+    MvMemoryClip* created = makeClip(piece);
+    created->change()->track = clip->trackImpl();
     clip->markerList()->moveTailTo(created->markerList(), offset);
 
-    for (MvMemoryTransition* transition : qAsConst(allTransitions)) {
-        if (transition->owner() != clip || !transition->state().attached)
-            continue;
-        MvMemoryTransition::State state = transition->state();
-        if (state.placement == IMvTransition::AtEnd)
-            state.owner = created;
-        state.length = qMin(state.length, state.owner->frameCount());
-        transition->restore(state);
+    const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
+    for (MvMemoryTransition* transition : transitions) {
+        auto value = transition->change();
+        if (value->placement == IMvTransition::AtEnd)
+            value->owner = created;
+        value->length = qMin(value->length, value->owner->frameCount());
     }
-    for (MvMemoryGroup& group : groups) {
-        if (group.members.contains(clip))
-            group.members.append(created);
-    }
+    groups->join(clip, created);
     return created;
 }
 
@@ -267,9 +260,8 @@ void clampTransitions(MvMemoryClip* clip)
 {
     const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
     for (MvMemoryTransition* transition : transitions) {
-        MvMemoryTransition::State state = transition->state();
-        state.length = qMin(state.length, clip->frameCount());
-        transition->restore(state);
+        if (transition->length() > clip->frameCount())
+            transition->change()->length = clip->frameCount();
     }
 }
 }
@@ -280,11 +272,13 @@ bool MvMemoryTimelinePrivate::trimStart(MvMemoryClip* clip, qint64 frame)
         return false;
     const qint64 offset = frame - clip->start();
     const qint64 last = clip->end() - clip->start();
-    MvMemoryClip::State& state = clip->mutableState();
-    state.videoKeys = keepRange(state.videoKeys, offset, last);
-    state.audioKeys = keepRange(state.audioKeys, offset, last);
-    state.freezeFrames = keepFreezeRange(state.freezeFrames, offset, last);
-    state.start = frame;
+    {
+        auto value = clip->change();
+        value->videoKeys = keepRange(value->videoKeys, offset, last);
+        value->audioKeys = keepRange(value->audioKeys, offset, last);
+        value->freezeFrames = keepFreezeRange(value->freezeFrames, offset, last);
+        value->start = frame;
+    }
     clip->markerList()->dropOutside(offset, last);
     clip->markerList()->shiftFrames(-offset);
     clampTransitions(clip);
@@ -296,11 +290,13 @@ bool MvMemoryTimelinePrivate::trimEnd(MvMemoryClip* clip, qint64 frame)
     if (!editable(clip) || !(clip->start() <= frame && frame < clip->end()))
         return false;
     const qint64 last = frame - clip->start();
-    MvMemoryClip::State& state = clip->mutableState();
-    state.videoKeys = keepRange(state.videoKeys, 0, last);
-    state.audioKeys = keepRange(state.audioKeys, 0, last);
-    state.freezeFrames = keepFreezeRange(state.freezeFrames, 0, last);
-    state.end = frame;
+    {
+        auto value = clip->change();
+        value->videoKeys = keepRange(value->videoKeys, 0, last);
+        value->audioKeys = keepRange(value->audioKeys, 0, last);
+        value->freezeFrames = keepFreezeRange(value->freezeFrames, 0, last);
+        value->end = frame;
+    }
     clip->markerList()->dropOutside(0, last);
     clampTransitions(clip);
     return true;
@@ -328,7 +324,7 @@ void MvMemoryTimelinePrivate::rotate(IMvClip* clip, int degrees, const char* ope
     // Only what has a picture turns.
     if (!editable(own) || !MvMemoryClip::hasPicture(own->type()))
         return;
-    own->mutableState().rotation = (own->rotation() + degrees) % 360;
+    own->change()->rotation = (own->rotation() + degrees) % 360;
 }
 
 void MvMemoryTimeline::rotateClip90CW(IMvClip* clip)

@@ -1,13 +1,37 @@
 #pragma once
 
 #include "MvMemoryTimeline.h"
+#include "MvMemoryUndoRecorder.h"
 
 #include <QList>
 
 #include <functional>
 
 class IMvTimelineRuler;
+class MvMemoryMarks;
 class IMvTimelineRenderService;
+
+struct MvMemoryTimelineState
+{
+    QList<MvMemoryTrack*> rows; // the tracks on the timeline, top row first
+
+    bool operator==(const MvMemoryTimelineState& other) const { return rows == other.rows; }
+};
+
+// The timeline's own undoable values: which tracks it shows, in which order. Timeline-wide values
+// that undo restores belong in its State.
+class MvMemoryTimelineValues : public MvMemoryValued<MvMemoryTimelineState>
+{
+public:
+    explicit MvMemoryTimelineValues(MvMemoryUndoRecorder* recorder);
+    QString undoLabel() const override;
+
+protected:
+    void valueChanged() override;
+
+private:
+    QList<MvMemoryTrack*> m_numbered; // the rows whose tracks know their index
+};
 
 class MvMemoryTimelinePrivate
 {
@@ -15,14 +39,15 @@ public:
     explicit MvMemoryTimelinePrivate(MvMemoryTimeline* q, int kind);
     ~MvMemoryTimelinePrivate();
 
-    MvMemoryModelState capture() const;
-    void restore(const MvMemoryModelState& state);
-    // After each edit and each undo or redo: drop dead selections, follow the duration.
+    const QList<MvMemoryTrack*>& rows() const { return values->state().rows; }
+    MvMemoryClip* makeClip(const MvMemoryClip::State& state);
+    // After each edit and each undo or redo: drop what left the timeline from the selections,
+    // follow the duration. Costs what changed since the last call.
     void afterChange();
     // After a step was recorded, undone or redone: the stretch whose picture or sound changed
     // needs rendering again.
-    void modelChanged(const MvMemoryModelState& from, const MvMemoryModelState& to);
-    void markChangedFramesUnrendered(const MvMemoryModelState& from, const MvMemoryModelState& to);
+    void modelChanged(const MvMemoryUndoRecorder::Step& step);
+    void markChangedFramesUnrendered(const MvMemoryUndoRecorder::Step& step);
     void record(const char* operation) const;
     // A building call: joins an open step; outside a step it is applied directly and the history,
     // which no longer describes the model, is cleared.
@@ -31,14 +56,16 @@ public:
     bool editable(const MvMemoryClip* clip) const;
     QList<MvMemoryClip*> liveClipsOf(const QList<IMvClip*>& clips, bool* allLive) const;
     void detach(MvMemoryClip* clip);
-    void removeFromGroups(const QList<MvMemoryClip*>& clips);
+    void closeGaps(MvMemoryTrack* track, QList<MvMemoryClip*> removed);
     MvMemoryClip* cutClip(MvMemoryClip* clip, qint64 frame);
     bool trimStart(MvMemoryClip* clip, qint64 frame);
     bool trimEnd(MvMemoryClip* clip, qint64 frame);
-    bool moveAllowed(const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets, qint64 frameOffset) const;
+    bool moveAllowed(const QList<MvMemoryClip*>& clips, const QList<MvMemoryTrack*>& targets, qint64 frameOffset,
+        const MvMemoryMarks& moving) const;
     void rotate(IMvClip* clip, int degrees, const char* operation);
     void checkTracks(QStringList& problems) const;
     void checkClips(QStringList& problems) const;
+    void checkGroupsAndTransitions(QStringList& problems) const;
     void checkItems(QStringList& problems) const;
     QString clipText(const MvMemoryClip* clip) const;
     QString clipId(const MvMemoryClip* clip) const;
@@ -48,11 +75,13 @@ public:
 
     int kind;
     MVVBLMODEL::MvFrameRate frameRate;
+    // Made first and deleted last: every undoable object reports to it.
+    MvMemoryUndoRecorder* recorder = nullptr;
+    MvMemoryTimelineValues* values = nullptr;
+    MvMemoryGroups* groups = nullptr;
     QList<MvMemoryTrack*> allTracks;
-    QList<MvMemoryTrack*> tracks; // row order
     QList<MvMemoryClip*> allClips;
     QList<MvMemoryTransition*> allTransitions;
-    QList<MvMemoryGroup> groups;
     int nextTransitionId = 1;
 
     MvMemoryUndoService* undo = nullptr;

@@ -3,36 +3,36 @@
 #include "MvMemoryClip.h"
 #include "MvMemoryTimeline.h"
 
-#include <algorithm>
+#include <limits>
 
 MvMemoryTrack::MvMemoryTrack(MvMemoryTimeline* timeline, MVVBLMODEL::MvTrackType type)
-    : m_timeline(timeline)
+    : MvMemoryValued<State>(timeline->undoRecorder(), State { type, false })
+    , m_timeline(timeline)
 {
-    m_state.type = type;
 }
 
 int MvMemoryTrack::index() const
 {
-    return m_timeline->indexOfTrack(this);
+    return m_row;
 }
 
 MVVBLMODEL::MvTrackType MvMemoryTrack::type() const
 {
-    return m_state.type;
+    return state().type;
 }
 
 bool MvMemoryTrack::isLocked() const
 {
-    return m_state.locked;
+    return state().locked;
 }
 
 void MvMemoryTrack::setLocked(bool locked)
 {
-    if (m_state.locked == locked)
+    if (state().locked == locked)
         return;
     MvMemoryTimeline::Edit edit(
         m_timeline, "setLocked", locked ? QStringLiteral("lock track") : QStringLiteral("unlock track"));
-    m_state.locked = locked;
+    change()->locked = locked;
 }
 
 int MvMemoryTrack::height() const
@@ -48,9 +48,9 @@ void MvMemoryTrack::setHeight(int height)
 QList<IMvClip*> MvMemoryTrack::clips() const
 {
     QList<IMvClip*> clips;
-    clips.reserve(m_state.clips.size());
-    for (MvMemoryClip* clip : m_state.clips)
-        clips.append(clip);
+    clips.reserve(clipCount());
+    for (const MvMemoryClipIndex::Entry& entry : m_clips)
+        clips.append(entry.clip);
     return clips;
 }
 
@@ -61,23 +61,82 @@ bool MvMemoryTrack::accepts(MVVBLMODEL::MvClipType clipType) const
     if (clipType == MVVBLMODEL::ClipType_Transition || clipType < MVVBLMODEL::ClipType_Audio
         || clipType > MVVBLMODEL::ClipType_SoundEffect)
         return false;
-    return (m_state.type == MVVBLMODEL::TrackType_Audio) == MVVBLMODEL::isAudioClipType(clipType);
+    return (state().type == MVVBLMODEL::TrackType_Audio) == MVVBLMODEL::isAudioClipType(clipType);
 }
 
-void MvMemoryTrack::insertSorted(MvMemoryClip* clip)
+QList<MvMemoryClip*> MvMemoryTrack::memoryClips() const
 {
-    auto at = std::upper_bound(m_state.clips.begin(), m_state.clips.end(), clip,
-        [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() < b->start(); });
-    m_state.clips.insert(at, clip);
+    QList<MvMemoryClip*> clips;
+    clips.reserve(clipCount());
+    for (const MvMemoryClipIndex::Entry& entry : m_clips)
+        clips.append(entry.clip);
+    return clips;
 }
 
-void MvMemoryTrack::take(MvMemoryClip* clip)
+MvMemoryClipIndex::Iterator MvMemoryTrack::firstMeeting(qint64 first) const
 {
-    m_state.clips.removeAll(clip);
+    auto it = m_clips.lowerBound(Key(first, std::numeric_limits<int>::min()));
+    if (it != m_clips.begin())
+        --it;
+    return it;
 }
 
-void MvMemoryTrack::resort()
+qint64 MvMemoryTrack::endOf(const MvMemoryClip* clip)
 {
-    std::stable_sort(m_state.clips.begin(), m_state.clips.end(),
-        [](const MvMemoryClip* a, const MvMemoryClip* b) { return a->start() < b->start(); });
+    return clip->end();
+}
+
+QList<MvMemoryClip*> MvMemoryTrack::clipsMeeting(qint64 first, qint64 last) const
+{
+    QList<MvMemoryClip*> found;
+    anyClipMeeting(first, last, [&found](MvMemoryClip* clip) {
+        found.append(clip);
+        return false;
+    });
+    return found;
+}
+
+QList<MvMemoryClip*> MvMemoryTrack::clipsFrom(qint64 first) const
+{
+    QList<MvMemoryClip*> found;
+    for (auto it = m_clips.lowerBound(Key(first, std::numeric_limits<int>::min())); it != m_clips.end(); ++it)
+        found.append(it->clip);
+    return found;
+}
+
+qint64 MvMemoryTrack::lastEnd() const
+{
+    return m_clips.isEmpty() ? -1 : m_clips.last().clip->end();
+}
+
+bool MvMemoryTrack::holds(const MvMemoryClip* clip) const
+{
+    return m_clips.contains(Key(clip->start(), clip->number()), clip);
+}
+
+void MvMemoryTrack::noteClip(MvMemoryClip* clip, qint64 start)
+{
+    m_clips.insert(Key(start, clip->number()), clip);
+}
+
+void MvMemoryTrack::forgetClip(const MvMemoryClip* clip, qint64 start)
+{
+    m_clips.erase(Key(start, clip->number()));
+}
+
+void MvMemoryTrack::moveClip(const MvMemoryClip* clip, qint64 from, qint64 to)
+{
+    m_clips.rekey(Key(from, clip->number()), Key(to, clip->number()));
+}
+
+QString MvMemoryTrack::undoLabel() const
+{
+    return QStringLiteral("track %1").arg(m_row);
+}
+
+// A track made later than a capture is not on the timeline then, and not locked.
+MvMemoryTrack::State MvMemoryTrack::detached(State value) const
+{
+    value.locked = false;
+    return value;
 }

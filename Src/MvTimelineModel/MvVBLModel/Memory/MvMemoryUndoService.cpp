@@ -1,8 +1,8 @@
 #include "MvMemoryUndoService.h"
 
-MvMemoryUndoService::MvMemoryUndoService(Capture capture, Restore restore, Changed changed)
-    : m_capture(std::move(capture))
-    , m_restore(std::move(restore))
+MvMemoryUndoService::MvMemoryUndoService(MvMemoryUndoRecorder* recorder, Restored restored, Changed changed)
+    : m_recorder(recorder)
+    , m_restored(std::move(restored))
     , m_changed(std::move(changed))
 {
 }
@@ -12,23 +12,23 @@ void MvMemoryUndoService::beginStep(const QString& name, const QString& source)
 {
     if (m_depth++ > 0)
         return;
-    m_open = Step { name, source, m_capture(), {} };
+    m_open = Step { name, source, {} };
+    m_recorder->open();
 }
 
 void MvMemoryUndoService::endStep()
 {
     if (m_depth == 0 || --m_depth > 0)
         return;
-    m_open.after = m_capture();
-    if (m_open.after == m_open.before) {
-        m_open = Step();
-        return;
-    }
-    m_undo.append(m_open);
+    m_open.changes = m_recorder->close();
+    Step closed = std::move(m_open);
     m_open = Step();
+    if (closed.changes.empty())
+        return;
+    m_undo.push_back(std::move(closed));
     m_redo.clear();
     if (m_changed)
-        m_changed(m_undo.last().before, m_undo.last().after);
+        m_changed(m_undo.back().changes);
 }
 
 bool MvMemoryUndoService::isStepOpen() const
@@ -38,23 +38,25 @@ bool MvMemoryUndoService::isStepOpen() const
 
 bool MvMemoryUndoService::canUndo() const
 {
-    return m_depth == 0 && !m_undo.isEmpty();
+    return m_depth == 0 && !m_undo.empty();
 }
 
 bool MvMemoryUndoService::canRedo() const
 {
-    return m_depth == 0 && !m_redo.isEmpty();
+    return m_depth == 0 && !m_redo.empty();
 }
 
 bool MvMemoryUndoService::undo()
 {
     if (!canUndo())
         return false;
-    Step step = m_undo.takeLast();
-    m_restore(step.before);
-    m_redo.append(step);
+    m_redo.push_back(std::move(m_undo.back()));
+    m_undo.pop_back();
+    m_recorder->apply(m_redo.back().changes, true);
+    if (m_restored)
+        m_restored();
     if (m_changed)
-        m_changed(step.after, step.before);
+        m_changed(m_redo.back().changes);
     return true;
 }
 
@@ -62,42 +64,44 @@ bool MvMemoryUndoService::redo()
 {
     if (!canRedo())
         return false;
-    Step step = m_redo.takeLast();
-    m_restore(step.after);
-    m_undo.append(step);
+    m_undo.push_back(std::move(m_redo.back()));
+    m_redo.pop_back();
+    m_recorder->apply(m_undo.back().changes, false);
+    if (m_restored)
+        m_restored();
     if (m_changed)
-        m_changed(step.before, step.after);
+        m_changed(m_undo.back().changes);
     return true;
 }
 
 int MvMemoryUndoService::undoCount() const
 {
-    return m_undo.size();
+    return int(m_undo.size());
 }
 
 int MvMemoryUndoService::redoCount() const
 {
-    return m_redo.size();
+    return int(m_redo.size());
 }
 
 QString MvMemoryUndoService::undoName() const
 {
-    return m_undo.isEmpty() ? QString() : m_undo.last().name;
+    return m_undo.empty() ? QString() : m_undo.back().name;
 }
 
 QString MvMemoryUndoService::redoName() const
 {
-    return m_redo.isEmpty() ? QString() : m_redo.last().name;
+    return m_redo.empty() ? QString() : m_redo.back().name;
 }
 
 QString MvMemoryUndoService::undoSource() const
 {
-    return m_undo.isEmpty() ? QString() : m_undo.last().source;
+    return m_undo.empty() ? QString() : m_undo.back().source;
 }
 
 QString MvMemoryUndoService::redoSource() const
 {
-    return m_redo.isEmpty() ? QString() : m_redo.last().source;
+    return m_redo.empty() ? QString() : m_redo.back().source;
 }
 
 QStringList MvMemoryUndoService::undoNames() const
@@ -106,6 +110,11 @@ QStringList MvMemoryUndoService::undoNames() const
     for (const Step& step : m_undo)
         names.append(step.name);
     return names;
+}
+
+int MvMemoryUndoService::undoChangeCount() const
+{
+    return m_undo.empty() ? 0 : int(m_undo.back().changes.size());
 }
 
 void MvMemoryUndoService::clear()

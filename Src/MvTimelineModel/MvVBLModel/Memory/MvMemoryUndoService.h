@@ -1,21 +1,25 @@
 #pragma once
 
 #include "IMvUndoRedoService.h"
-#include "MvMemoryModelState.h"
+#include "MvMemoryUndoRecorder.h"
+
+#include <QStringList>
 
 #include <functional>
+#include <vector>
 
-// The undo stack. A step keeps the whole model value before and after it; undo and redo write
-// those values back into the same (persistent) objects, so pointers stay valid.
+// The undo stack. A step keeps the values of the objects it changed, before and after it (see
+// MvMemoryUndoRecorder.h); undo and redo write those values back into the same (persistent)
+// objects, so pointers stay valid.
 class MVVBLMODEL_EXPORT MvMemoryUndoService : public IMvUndoRedoService
 {
 public:
-    using Capture = std::function<MvMemoryModelState()>;
-    using Restore = std::function<void(const MvMemoryModelState&)>;
-    // Told after a step was recorded, undone or redone, with the model values before and after.
-    using Changed = std::function<void(const MvMemoryModelState& from, const MvMemoryModelState& to)>;
+    // Told after undo or redo wrote a step's values back, before Changed.
+    using Restored = std::function<void()>;
+    // Told after a step was recorded, undone or redone, with the changes it holds.
+    using Changed = std::function<void(const MvMemoryUndoRecorder::Step& changes)>;
 
-    MvMemoryUndoService(Capture capture, Restore restore, Changed changed);
+    MvMemoryUndoService(MvMemoryUndoRecorder* recorder, Restored restored, Changed changed);
 
     void beginStep(const QString& name, const QString& source) override;
     void endStep() override;
@@ -35,6 +39,8 @@ public:
     QString redoSource() const;
     // Step names, oldest first.
     QStringList undoNames() const;
+    // How many object values the step undo() would revert holds (0 without one).
+    int undoChangeCount() const;
     void clear();
 
 private:
@@ -42,15 +48,14 @@ private:
     {
         QString name;
         QString source;
-        MvMemoryModelState before;
-        MvMemoryModelState after;
+        MvMemoryUndoRecorder::Step changes;
     };
 
-    Capture m_capture;
-    Restore m_restore;
+    MvMemoryUndoRecorder* m_recorder;
+    Restored m_restored;
     Changed m_changed;
-    QList<Step> m_undo;
-    QList<Step> m_redo;
+    std::vector<Step> m_undo;
+    std::vector<Step> m_redo;
     Step m_open;
     int m_depth = 0;
 };
