@@ -2,7 +2,7 @@
 
 #include "IMvTimelineRenderService.h"
 #include "Memory/MvMemoryRenderService.h"
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvBenchHarness.h"
 #include "MvPureTimelineRulerWidget.h"
@@ -79,7 +79,7 @@ void rulerPaint()
         const double floor = floorFor(image);
         const QRect rect(0, 0, kWidth, kHeight);
         for (const Case& c : cases) {
-            MvMemoryRuler ruler;
+            MvRulerModel ruler;
             ruler.setFrameRate(30000, 1001);
             ruler.setViewWidth(kWidth);
             ruler.setTotalFrames(c.total);

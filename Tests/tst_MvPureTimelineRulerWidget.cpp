@@ -1,5 +1,5 @@
 #include "IMvShortcutEditManager.h"
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "MvCustomEvent.h"
 #include "MvPureTimelineRulerWidget.h"
 #include "MvRulerGesture_p.h"
@@ -25,14 +25,14 @@ public:
 };
 
 // A ruler that notes every frame it is asked to show before it clamps it itself.
-class RecordingRuler : public MvMemoryRuler
+class RecordingRuler : public MvRulerModel
 {
 public:
     QList<qint64> requested;
     void setCurrentFrame(qint64 frame) override
     {
         requested.append(frame);
-        MvMemoryRuler::setCurrentFrame(frame);
+        MvRulerModel::setCurrentFrame(frame);
     }
 };
 
@@ -56,7 +56,7 @@ void moveTo(QWidget* widget, int x, Qt::MouseButtons buttons = Qt::LeftButton)
 // The zoom ratio after zoom steps adding up to `delta`, as the ruler computes it.
 float zoomedBy(float ratio, int delta)
 {
-    return float(ratio * std::exp2(-delta / MvMemoryRuler::kZoomUnitsPerDoubling));
+    return float(ratio * std::exp2(-delta / MvRulerModel::kZoomUnitsPerDoubling));
 }
 
 }

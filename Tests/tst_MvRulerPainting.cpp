@@ -1,7 +1,7 @@
 // The ruler and the render strip fill their rectangles one by one, snapped to device pixels,
 // instead of filling one QPainterPath. These tests paint both ways and compare every pixel.
 
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "MvRulerPainter_p.h"
 #include "MvScreen.h"
 #include "MvSkinStyle.h"
@@ -111,7 +111,7 @@ void tst_MvRulerPainting::fastPaintEqualsThePathFill()
     QFETCH(qint64, current);
     QFETCH(double, offset);
     MvScreen::setDevicePixelRatio(dpr);
-    MvMemoryRuler ruler;
+    MvRulerModel ruler;
     ruler.setFrameRate(30000, 1001);
     ruler.setViewWidth(kWidth);
     ruler.setTotalFrames(total);

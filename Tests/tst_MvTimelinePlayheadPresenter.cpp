@@ -2,7 +2,7 @@
 #include "IMvTimelineRuler.h"
 #include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryPlayhead.h"
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvRecordingTimeline.h"
 #include "MvTimelinePlayheadPresenter.h"
@@ -179,7 +179,7 @@ void tst_MvTimelinePlayheadPresenter::registersWithPlayheadAndRulerAndLeaves()
 {
     Project p;
     const auto counts = [&p]() {
-        auto* ruler = dynamic_cast<MvMemoryRuler*>(p.timeline.ruler());
+        auto* ruler = dynamic_cast<MvRulerModel*>(p.timeline.ruler());
         return qMakePair(p.timeline.playheadImpl()->observerCount(), ruler->observerCount());
     };
     const QPair<int, int> before = counts();

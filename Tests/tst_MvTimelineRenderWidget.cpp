@@ -1,5 +1,5 @@
 #include "Memory/MvMemoryRenderService.h"
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRenderWidget.h"
@@ -15,7 +15,7 @@ const QColor kPending(200, 70, 60);
 const QRgb kNothing = QColor(Qt::magenta).rgb();
 
 // A ruler whose notifications the test sends itself, so that one kind can come without another.
-class ScriptedRuler : public MvMemoryRuler
+class ScriptedRuler : public MvRulerModel
 {
 public:
     void addObserver(IMvTimelineRulerEventObserover* observer) override { observers.append(observer); }

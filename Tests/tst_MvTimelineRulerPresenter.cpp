@@ -1,5 +1,5 @@
 #include "Memory/MvMemoryPlayhead.h"
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvSkinStyle.h"
 #include "MvTimelinePresenter.h"
@@ -22,7 +22,7 @@ struct Fixture
         ruler->setViewWidth(600);
     }
     MvMemoryTimeline timeline;
-    MvMemoryRuler* ruler = timeline.rulerImpl();
+    MvRulerModel* ruler = timeline.rulerImpl();
     MvTimelinePresenter host { nullptr, &timeline };
     MvTimelineRulerPresenter presenter { &host, nullptr };
 };

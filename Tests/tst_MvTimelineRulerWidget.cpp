@@ -1,6 +1,6 @@
 #include "IMvEventFilter.h"
 #include "IMvTimelinePlayhead.h"
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvEventFilterManager.h"
 #include "MvRulerGesture_p.h"
@@ -67,7 +67,7 @@ struct Fixture
         widget.resize(kWidth, 28);
     }
     MvMemoryTimeline timeline;
-    MvMemoryRuler* ruler = timeline.rulerImpl();
+    MvRulerModel* ruler = timeline.rulerImpl();
     HostPresenter host { nullptr, &timeline };
     CountingRulerPresenter presenter { &host, nullptr };
     CountingRulerWidget widget { &presenter, nullptr };
@@ -147,14 +147,14 @@ void tst_MvTimelineRulerWidget::gesturesGoThroughThePresenter()
     QVERIFY(m_f->ruler->isZooming());
     m_now = 250;
     moveWithLeftButton(widget, QPoint(529, 5)); // 29 px right zooms in by 29, from a frame a pixel
-    const double zoomedIn = std::exp2(29.0 / MvMemoryRuler::kZoomUnitsPerDoubling);
+    const double zoomedIn = std::exp2(29.0 / MvRulerModel::kZoomUnitsPerDoubling);
     QVERIFY(qAbs(m_f->ruler->zoomRatio() - zoomedIn) < 1e-5);
     QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, QPoint(529, 5));
     QVERIFY(!m_f->ruler->isZooming());
     QWheelEvent wheel(QPoint(100, 10), widget->mapToGlobal(QPoint(100, 10)), QPoint(), QPoint(0, 120), Qt::NoButton,
         Qt::ControlModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget, &wheel);
-    QVERIFY(qAbs(m_f->ruler->zoomRatio() - zoomedIn * std::exp2(15.0 / MvMemoryRuler::kZoomUnitsPerDoubling)) < 1e-5);
+    QVERIFY(qAbs(m_f->ruler->zoomRatio() - zoomedIn * std::exp2(15.0 / MvRulerModel::kZoomUnitsPerDoubling)) < 1e-5);
     QVERIFY(qAbs(m_f->ruler->frameToPixel(1000) - kWidth / 2) <= 1);
 }
 

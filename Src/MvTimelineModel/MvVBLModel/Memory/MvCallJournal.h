@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvVBLModelGlobal.h"
 
 #include <QStringList>
@@ -7,7 +9,7 @@
 // One ordered list of what happened: model edits ("model:deleteClips") and, from a test's scene,
 // scene messages ("scene:7012"), so that orderings such as "the player is paused before the
 // model changes" can be checked in one place.
-class MVVBLMODEL_EXPORT MvCallJournal
+class MVMEMORY_EXPORT MvCallJournal
 {
 public:
     void record(const QString& entry);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvAbstractClip.h"
 #include "IMvClipItems.h"
 #include "MvMemoryMarker.h"
@@ -32,7 +34,7 @@ struct MvMemoryTransitionState
 // A transition rides on its owner clip: it covers the owner's first (AtStart) or last (AtEnd)
 // length frames, so it moves and trims with the owner. Its owner keeps the list of the
 // transitions attached to it.
-class MVVBLMODEL_EXPORT MvMemoryTransition : public IMvTransition, public MvMemoryValued<MvMemoryTransitionState>
+class MVMEMORY_EXPORT MvMemoryTransition : public IMvTransition, public MvMemoryValued<MvMemoryTransitionState>
 {
 public:
     using State = MvMemoryTransitionState;
@@ -63,7 +65,7 @@ private:
     MvMemoryClip* m_indexedOwner = nullptr; // the owner whose list holds this transition
 };
 
-class MVVBLMODEL_EXPORT MvMemoryTransitionList : public IMvTransitionList
+class MVMEMORY_EXPORT MvMemoryTransitionList : public IMvTransitionList
 {
 public:
     explicit MvMemoryTransitionList(MvMemoryClip* clip)
@@ -78,7 +80,7 @@ private:
     MvMemoryClip* m_clip;
 };
 
-class MVVBLMODEL_EXPORT MvMemoryFreezeFrameList : public IMvFreezeFrameList
+class MVMEMORY_EXPORT MvMemoryFreezeFrameList : public IMvFreezeFrameList
 {
 public:
     explicit MvMemoryFreezeFrameList(MvMemoryClip* clip)
@@ -95,7 +97,7 @@ private:
 };
 
 // The selected node is a view choice, kept out of undo; the node count is model state.
-class MVVBLMODEL_EXPORT MvMemorySmartKeyingNodes : public IMvSmartKeyingNodes
+class MVMEMORY_EXPORT MvMemorySmartKeyingNodes : public IMvSmartKeyingNodes
 {
 public:
     explicit MvMemorySmartKeyingNodes(MvMemoryClip* clip)
@@ -138,7 +140,7 @@ struct MvMemoryClipState
 // marker list, an undoable object of its own); the clip object itself lives as long as its
 // timeline (a removed clip is detached: its track is null). Its track keeps it in its lookup by
 // start.
-class MVVBLMODEL_EXPORT MvMemoryClip : public IMvClip, public MvMemoryValued<MvMemoryClipState>
+class MVMEMORY_EXPORT MvMemoryClip : public IMvClip, public MvMemoryValued<MvMemoryClipState>
 {
 public:
     using State = MvMemoryClipState;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvVBLModelGlobal.h"
 
 #include <utility>
@@ -11,7 +13,7 @@ class MvMemoryClip;
 // entries: finding a place is a binary search over the chunks' last keys and one inside a chunk,
 // both over contiguous memory; an insert or an erase moves entries of one chunk only. That keeps
 // every operation at O(log n) and a walk over the row sequential in memory.
-class MVVBLMODEL_EXPORT MvMemoryClipIndex
+class MVMEMORY_EXPORT MvMemoryClipIndex
 {
 public:
     using Key = std::pair<qint64, int>; // start, clip number

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvClipEditService.h"
 
 class MvMemoryTimeline;
 
 // Groups of the in-memory timeline. The groups themselves are timeline state (undoable); this
 // service reads and edits them.
-class MVVBLMODEL_EXPORT MvMemoryEditService : public IMvClipEditService
+class MVMEMORY_EXPORT MvMemoryEditService : public IMvClipEditService
 {
 public:
     explicit MvMemoryEditService(MvMemoryTimeline* timeline);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvMemoryUndoable.h"
 
 #include <QHash>
@@ -30,7 +32,7 @@ struct MvMemoryClipGroupState
 };
 
 // One group as an undoable object. A dissolved group stays (not live), so undo can bring it back.
-class MVVBLMODEL_EXPORT MvMemoryClipGroup : public MvMemoryValued<MvMemoryClipGroupState>
+class MVMEMORY_EXPORT MvMemoryClipGroup : public MvMemoryValued<MvMemoryClipGroupState>
 {
 public:
     using State = MvMemoryClipGroupState;
@@ -52,7 +54,7 @@ private:
 // The groups of a timeline: every group ever formed, in the order they were formed, and which
 // live group each clip belongs to. A clip is in one group at most; a group has two members at
 // least.
-class MVVBLMODEL_EXPORT MvMemoryGroups
+class MVMEMORY_EXPORT MvMemoryGroups
 {
 public:
     explicit MvMemoryGroups(MvMemoryUndoRecorder* recorder);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvKeyFrameSelector.h"
 #include "MvMemoryClip.h"
 
@@ -7,7 +9,7 @@ class MvMemoryTimeline;
 
 // The picked keyframes. A selection is kept only while its clip is on the timeline and only with
 // frames that still carry a keyframe of that side; not part of undo.
-class MVVBLMODEL_EXPORT MvMemoryKeyFrameSelector : public IMvKeyFrameSelector
+class MVMEMORY_EXPORT MvMemoryKeyFrameSelector : public IMvKeyFrameSelector
 {
 public:
     explicit MvMemoryKeyFrameSelector(MvMemoryTimeline* timeline);
@@ -26,7 +28,7 @@ private:
 
 // Copied keyframes keep their frames relative to the first one; a paste puts that first one at
 // the playhead's frame on each target clip.
-class MVVBLMODEL_EXPORT MvMemoryKeyFrameClipboard : public IMvKeyFrameClipboard
+class MVMEMORY_EXPORT MvMemoryKeyFrameClipboard : public IMvKeyFrameClipboard
 {
 public:
     explicit MvMemoryKeyFrameClipboard(MvMemoryTimeline* timeline);

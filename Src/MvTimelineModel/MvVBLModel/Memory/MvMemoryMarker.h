@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvMarker.h"
 #include "MvMemoryUndoable.h"
 
@@ -25,7 +27,7 @@ struct MvMemoryMarkerState
 
 // A marker of the in-memory model. It lives as long as its list; removing it detaches it (the
 // list's value says which of its markers are attached).
-class MVVBLMODEL_EXPORT MvMemoryMarker : public IMvMarker, public MvMemoryValued<MvMemoryMarkerState>
+class MVMEMORY_EXPORT MvMemoryMarker : public IMvMarker, public MvMemoryValued<MvMemoryMarkerState>
 {
 public:
     using State = MvMemoryMarkerState;
@@ -58,7 +60,7 @@ struct MvMemoryMarkerListState
 
 // Markers of the whole timeline (own frames are timeline frames, range 0 .. duration) or of one
 // clip (own frames count from the clip's start, range start .. end). One marker per frame.
-class MVVBLMODEL_EXPORT MvMemoryMarkerList : public IMvMarkerList, public MvMemoryValued<MvMemoryMarkerListState>
+class MVMEMORY_EXPORT MvMemoryMarkerList : public IMvMarkerList, public MvMemoryValued<MvMemoryMarkerListState>
 {
 public:
     using State = MvMemoryMarkerListState;
@@ -105,7 +107,7 @@ private:
 };
 
 // Which marker is selected, on the timeline or on any clip. Selection, not an undoable edit.
-class MVVBLMODEL_EXPORT MvMemoryMarkerModel : public IMvMarkerModel
+class MVMEMORY_EXPORT MvMemoryMarkerModel : public IMvMarkerModel
 {
 public:
     explicit MvMemoryMarkerModel(MvMemoryTimeline* timeline);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvTimelinePlayhead.h"
 
 #include <QList>
@@ -8,7 +10,7 @@ class MvMemoryTimeline;
 
 // The play cursor. Observers are told synchronously, only on a real change, and may remove
 // themselves (or others) from inside the callback.
-class MVVBLMODEL_EXPORT MvMemoryPlayhead : public IMvTimelinePlayhead
+class MVMEMORY_EXPORT MvMemoryPlayhead : public IMvTimelinePlayhead
 {
 public:
     explicit MvMemoryPlayhead(MvMemoryTimeline* timeline);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvTimelineRenderService.h"
 #include "MvVBLModelGlobal.h"
 
@@ -8,7 +10,7 @@
 // The preview render state of an in-memory timeline: a list of frame stretches (both ends
 // inclusive), each rendered or still to render. A host or a test drives it; there is no renderer
 // behind it, renderNext() stands in for one.
-class MVVBLMODEL_EXPORT MvMemoryRenderService : public IMvTimelineRenderService
+class MVMEMORY_EXPORT MvMemoryRenderService : public IMvTimelineRenderService
 {
 public:
     MvMemoryRenderService();

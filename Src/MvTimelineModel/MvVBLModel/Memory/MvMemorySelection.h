@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvSelection.h"
 #include "MvMemoryMarks.h"
 
@@ -7,7 +9,7 @@ class MvMemoryTimeline;
 
 // The selection is a view of the user's focus; it is not part of undo. It only ever holds items
 // that are on the timeline: edits and undo drop the items they take off it.
-class MVVBLMODEL_EXPORT MvMemorySelection : public IMvSelection
+class MVMEMORY_EXPORT MvMemorySelection : public IMvSelection
 {
 public:
     explicit MvMemorySelection(MvMemoryTimeline* timeline);
@@ -36,7 +38,7 @@ private:
     bool m_timelineSelected = false;
 };
 
-class MVVBLMODEL_EXPORT MvMemorySubItemSelection : public IMvSubItemSelection
+class MVMEMORY_EXPORT MvMemorySubItemSelection : public IMvSubItemSelection
 {
 public:
     bool selectedId(int& id) const override;

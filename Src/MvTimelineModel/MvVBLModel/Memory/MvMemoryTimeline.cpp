@@ -6,7 +6,7 @@
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
 #include "MvMemoryRenderService.h"
-#include "MvMemoryRuler.h"
+#include "MvRulerModel.h"
 #include "MvMemorySelection.h"
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
@@ -352,10 +352,10 @@ IMvTimelineRenderService* MvMemoryTimeline::renderService() const
     return d->renderService;
 }
 
-MvMemoryRuler* MvMemoryTimeline::rulerImpl() const
+MvRulerModel* MvMemoryTimeline::rulerImpl() const
 {
     Q_D(const MvMemoryTimeline);
-    return dynamic_cast<MvMemoryRuler*>(d->ruler);
+    return dynamic_cast<MvRulerModel*>(d->ruler);
 }
 
 MvMemoryRenderService* MvMemoryTimeline::renderServiceImpl() const

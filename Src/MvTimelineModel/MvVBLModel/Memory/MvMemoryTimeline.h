@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include <functional>
 
 #include "IMvTimeline.h"
@@ -17,7 +19,7 @@ class MvMemoryKeyFrameSelector;
 class MvMemoryMarkerModel;
 class MvMemoryPlayhead;
 class MvMemoryRenderService;
-class MvMemoryRuler;
+class MvRulerModel;
 class MvMemorySelection;
 class MvMemorySubItemSelection;
 class MvMemoryTimelinePrivate;
@@ -42,12 +44,12 @@ class MvMemoryUndoService;
 // - an undo step records the values of the objects it changed (see MvMemoryUndoRecorder.h).
 // Lookups (a row's clips by start, a clip's group, a clip's transitions) are kept up to date with
 // every change, so selections, moves, inserts and the edit rules cost at most n log n.
-class MVVBLMODEL_EXPORT MvMemoryTimeline : public IMvTimeline
+class MVMEMORY_EXPORT MvMemoryTimeline : public IMvTimeline
 {
 public:
     // Wraps one model edit: records it in the journal and keeps it inside an undo step (its own
     // step unless one is open). Whatever it changed is checked (selection, duration) on close.
-    class MVVBLMODEL_EXPORT Edit
+    class MVMEMORY_EXPORT Edit
     {
     public:
         Edit(const MvMemoryTimeline* timeline, const char* operation, const QString& stepName);
@@ -121,7 +123,7 @@ public:
     MvMemoryKeyFrameSelector* keyFrameSelectorImpl() const;
     MvMemoryKeyFrameClipboard* keyFrameClipboardImpl() const;
     MvMemoryTrack* memoryTrack(int index) const;
-    MvMemoryRuler* rulerImpl() const;
+    MvRulerModel* rulerImpl() const;
     // Null when a subclass's factory made a render service of another kind.
     MvMemoryRenderService* renderServiceImpl() const;
     // Clips on the timeline, track by track from the top, each track by start.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvMemoryTimeline.h"
 #include "MvMemoryUndoRecorder.h"
 

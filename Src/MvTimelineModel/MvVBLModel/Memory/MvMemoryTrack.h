@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvTrack.h"
 #include "MvMemoryUndoable.h"
 
@@ -21,7 +23,7 @@ struct MvMemoryTrackState
 // A track row. Its lock state is undoable model state; which clips it holds is each clip's own
 // value (the clip's track), which the track follows in a lookup by start. The row height is a
 // view setting and stays out of undo.
-class MVVBLMODEL_EXPORT MvMemoryTrack : public IMvTrack, public MvMemoryValued<MvMemoryTrackState>
+class MVMEMORY_EXPORT MvMemoryTrack : public IMvTrack, public MvMemoryValued<MvMemoryTrackState>
 {
 public:
     using State = MvMemoryTrackState;

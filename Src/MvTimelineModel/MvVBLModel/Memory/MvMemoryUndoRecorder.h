@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvMemoryUndoable.h"
 
 #include <QStringList>
@@ -27,7 +29,7 @@
 // A change that bypasses change() cannot be written without setStateUnchecked(), which exists for
 // invariant tests only; while verifying (on in debug builds), each closed step is compared with a
 // full capture of the model and any difference is reported by the invariant checker.
-class MVVBLMODEL_EXPORT MvMemoryUndoRecorder
+class MVMEMORY_EXPORT MvMemoryUndoRecorder
 {
 public:
     struct Change
@@ -40,7 +42,7 @@ public:
 
     // Every undoable value of a timeline, one entry per object created so far, in creation order;
     // objects created later than a capture count as detached in it.
-    class MVVBLMODEL_EXPORT Capture
+    class MVMEMORY_EXPORT Capture
     {
     public:
         // Empty when `later` (a capture of the same timeline) holds the same values; else the first
@@ -65,7 +67,7 @@ public:
 
     // A building call outside a step changes the model without recording it (the history is
     // cleared after it).
-    class MVVBLMODEL_EXPORT Building
+    class MVMEMORY_EXPORT Building
     {
     public:
         explicit Building(MvMemoryUndoRecorder* recorder);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "IMvUndoRedoService.h"
 #include "MvMemoryUndoRecorder.h"
 
@@ -11,7 +13,7 @@
 // The undo stack. A step keeps the values of the objects it changed, before and after it (see
 // MvMemoryUndoRecorder.h); undo and redo write those values back into the same (persistent)
 // objects, so pointers stay valid.
-class MVVBLMODEL_EXPORT MvMemoryUndoService : public IMvUndoRedoService
+class MVMEMORY_EXPORT MvMemoryUndoService : public IMvUndoRedoService
 {
 public:
     // Told after undo or redo wrote a step's values back, before Changed.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvVBLModelGlobal.h"
 
 #include <QString>
@@ -9,7 +11,7 @@
 class MvMemoryUndoRecorder;
 
 // One saved value of an undoable object: a copy of its State, type-erased for the recorder.
-class MVVBLMODEL_EXPORT MvMemoryValue
+class MVMEMORY_EXPORT MvMemoryValue
 {
 public:
     virtual ~MvMemoryValue();
@@ -30,7 +32,7 @@ using MvMemoryValuePtr = std::shared_ptr<const MvMemoryValue>;
 // An object of the in-memory model whose value undo restores. The recorder sees it only through
 // this base; MvMemoryValued<State> below implements it for one State struct. See
 // MvMemoryUndoRecorder.h for how the pieces fit.
-class MVVBLMODEL_EXPORT MvMemoryUndoable
+class MVMEMORY_EXPORT MvMemoryUndoable
 {
 public:
     explicit MvMemoryUndoable(MvMemoryUndoRecorder* recorder);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvMemoryGlobal.h"
+
 #include "MvVBLModelGlobal.h"
 
 class MvMemoryTimeline;
@@ -7,7 +9,7 @@ class MvMemoryTimeline;
 // The demo's built-in project: three picture rows and two audio rows, about two minutes at 30
 // frames per second, with clips of every common kind, a transition, a linked group, markers,
 // keyframes and a freeze frame. It leaves the undo history empty and the playhead at frame 0.
-class MVVBLMODEL_EXPORT MvSampleProject
+class MVMEMORY_EXPORT MvSampleProject
 {
 public:
     static void build(MvMemoryTimeline& timeline);

@@ -1,4 +1,4 @@
-#include "MvMemoryRuler.h"
+#include "MvRulerModel.h"
 
 #include <QtMath>
 
@@ -8,33 +8,33 @@
 
 IMvTimelineRuler* IMvTimelineRuler::createInstance()
 {
-    return new MvMemoryRuler;
+    return new MvRulerModel;
 }
 
-MvMemoryRuler::MvMemoryRuler()
+MvRulerModel::MvRulerModel()
 {
     refit();
 }
 
-MvMemoryRuler::~MvMemoryRuler() = default;
+MvRulerModel::~MvRulerModel() = default;
 
-void MvMemoryRuler::addObserver(IMvTimelineRulerEventObserover* observer)
+void MvRulerModel::addObserver(IMvTimelineRulerEventObserover* observer)
 {
     if (observer && !m_observers.contains(observer))
         m_observers.append(observer);
 }
 
-void MvMemoryRuler::removeObserver(IMvTimelineRulerEventObserover* observer)
+void MvRulerModel::removeObserver(IMvTimelineRulerEventObserover* observer)
 {
     m_observers.removeAll(observer);
 }
 
-int MvMemoryRuler::observerCount() const
+int MvRulerModel::observerCount() const
 {
     return m_observers.size();
 }
 
-void MvMemoryRuler::setViewWidth(int width)
+void MvRulerModel::setViewWidth(int width)
 {
     width = std::max(width, 0);
     if (width == m_viewWidth)
@@ -45,12 +45,12 @@ void MvMemoryRuler::setViewWidth(int width)
     notifyChanges(before);
 }
 
-int MvMemoryRuler::viewWidth() const
+int MvRulerModel::viewWidth() const
 {
     return m_viewWidth;
 }
 
-void MvMemoryRuler::setTotalFrames(qint64 frames)
+void MvRulerModel::setTotalFrames(qint64 frames)
 {
     frames = std::max<qint64>(frames, 0);
     if (frames == m_state.total)
@@ -61,12 +61,12 @@ void MvMemoryRuler::setTotalFrames(qint64 frames)
     notifyChanges(before);
 }
 
-qint64 MvMemoryRuler::totalFrames() const
+qint64 MvRulerModel::totalFrames() const
 {
     return m_state.total;
 }
 
-void MvMemoryRuler::setFrameRate(int numerator, int denominator)
+void MvRulerModel::setFrameRate(int numerator, int denominator)
 {
     // A rate that is not positive cannot map time to frames; keep the one we have.
     if (numerator <= 0 || denominator <= 0)
@@ -79,7 +79,7 @@ void MvMemoryRuler::setFrameRate(int numerator, int denominator)
     notifyChanges(before);
 }
 
-void MvMemoryRuler::frameRate(int* numerator, int* denominator) const
+void MvRulerModel::frameRate(int* numerator, int* denominator) const
 {
     if (numerator)
         *numerator = m_state.numerator;
@@ -87,7 +87,7 @@ void MvMemoryRuler::frameRate(int* numerator, int* denominator) const
         *denominator = m_state.denominator;
 }
 
-void MvMemoryRuler::setCurrentFrame(qint64 frame)
+void MvRulerModel::setCurrentFrame(qint64 frame)
 {
     const State before = m_state;
     m_state.current = qBound<qint64>(0, frame, m_state.total);
@@ -100,27 +100,27 @@ void MvMemoryRuler::setCurrentFrame(qint64 frame)
     notifyChanges(before);
 }
 
-qint64 MvMemoryRuler::currentFrame() const
+qint64 MvRulerModel::currentFrame() const
 {
     return m_state.current;
 }
 
-qint64 MvMemoryRuler::visibleStartFrame() const
+qint64 MvRulerModel::visibleStartFrame() const
 {
     return m_state.start;
 }
 
-qint64 MvMemoryRuler::visibleEndFrame() const
+qint64 MvRulerModel::visibleEndFrame() const
 {
     return m_state.start + m_state.visible;
 }
 
-qint64 MvMemoryRuler::visibleFrames() const
+qint64 MvRulerModel::visibleFrames() const
 {
     return m_state.visible;
 }
 
-void MvMemoryRuler::visualRange(qint64* start, qint64* end) const
+void MvRulerModel::visualRange(qint64* start, qint64* end) const
 {
     if (start)
         *start = visibleStartFrame();
@@ -128,7 +128,7 @@ void MvMemoryRuler::visualRange(qint64* start, qint64* end) const
         *end = visibleEndFrame();
 }
 
-void MvMemoryRuler::setVisualRange(qint64 start, qint64 end)
+void MvRulerModel::setVisualRange(qint64 start, qint64 end)
 {
     if (end <= start)
         return;
@@ -140,7 +140,7 @@ void MvMemoryRuler::setVisualRange(qint64 start, qint64 end)
     notifyChanges(before);
 }
 
-int MvMemoryRuler::frameToPixel(qint64 frame) const
+int MvRulerModel::frameToPixel(qint64 frame) const
 {
     const double x = double(frame - m_state.start) * double(m_state.ratio);
     // Far-away frames land far outside the view, never wrap around.
@@ -148,12 +148,12 @@ int MvMemoryRuler::frameToPixel(qint64 frame) const
     return int(std::floor(qBound(-limit, x, limit) + 0.5));
 }
 
-qint64 MvMemoryRuler::pixelToFrame(int x) const
+qint64 MvRulerModel::pixelToFrame(int x) const
 {
     return m_state.start + qint64(std::floor(double(x) / double(m_state.ratio) + 0.5));
 }
 
-int MvMemoryRuler::framesInPixels(int pixels) const
+int MvRulerModel::framesInPixels(int pixels) const
 {
     // The ratio is a float: 600 px over 1800 frames is a hair above 1/3, and 30 px must still
     // cover 90 frames, not 89.
@@ -163,19 +163,19 @@ int MvMemoryRuler::framesInPixels(int pixels) const
     return int(qBound(-limit, frames, limit));
 }
 
-qint64 MvMemoryRuler::framesPerTick() const
+qint64 MvRulerModel::framesPerTick() const
 {
     // Whole frames per second for tick units: 29.97 counts as 30. Rates above 1000 are not video.
     const int nominalFps = qBound(1, qRound(double(m_state.numerator) / m_state.denominator), 1000);
     return framesPerTickFor(double(m_state.ratio), nominalFps);
 }
 
-double MvMemoryRuler::tickSpacing() const
+double MvRulerModel::tickSpacing() const
 {
     return double(framesPerTick()) * double(m_state.ratio);
 }
 
-void MvMemoryRuler::setZoomRatio(float ratio)
+void MvRulerModel::setZoomRatio(float ratio)
 {
     if (!(ratio > 0.0f))
         return;
@@ -185,22 +185,22 @@ void MvMemoryRuler::setZoomRatio(float ratio)
     applyRatio(ratio, frame, x);
 }
 
-float MvMemoryRuler::zoomRatio() const
+float MvRulerModel::zoomRatio() const
 {
     return m_state.ratio;
 }
 
-float MvMemoryRuler::minZoomRatio() const
+float MvRulerModel::minZoomRatio() const
 {
     return m_state.minRatio;
 }
 
-float MvMemoryRuler::maxZoomRatio() const
+float MvRulerModel::maxZoomRatio() const
 {
     return std::max(kMaxPixelsPerFrame, m_state.minRatio);
 }
 
-void MvMemoryRuler::zoom(int delta)
+void MvRulerModel::zoom(int delta)
 {
     if (delta == 0)
         return;
@@ -212,7 +212,7 @@ void MvMemoryRuler::zoom(int delta)
     applyRatio(float(double(m_state.ratio) * factor), frame, x);
 }
 
-void MvMemoryRuler::beginZoom()
+void MvRulerModel::beginZoom()
 {
     // Hold the anchor for the whole gesture so that rounding cannot make the view creep.
     m_zooming = false;
@@ -220,24 +220,24 @@ void MvMemoryRuler::beginZoom()
     m_zooming = true;
 }
 
-void MvMemoryRuler::endZoom()
+void MvRulerModel::endZoom()
 {
     m_zooming = false;
 }
 
-bool MvMemoryRuler::isZooming() const
+bool MvRulerModel::isZooming() const
 {
     return m_zooming;
 }
 
-void MvMemoryRuler::moveCurrentFrameToCenter()
+void MvRulerModel::moveCurrentFrameToCenter()
 {
     const State before = m_state;
     m_state.start = clampStart(m_state.current - m_state.visible / 2, m_state.visible);
     notifyChanges(before);
 }
 
-qint64 MvMemoryRuler::framesPerTickFor(double pixelsPerFrame, int nominalFps)
+qint64 MvRulerModel::framesPerTickFor(double pixelsPerFrame, int nominalFps)
 {
     nominalFps = qBound(1, nominalFps, 1000);
     // Round units of time in frames; each is what five ticks make.
@@ -267,28 +267,28 @@ qint64 MvMemoryRuler::framesPerTickFor(double pixelsPerFrame, int nominalFps)
     }
 }
 
-int MvMemoryRuler::effectiveWidth() const
+int MvRulerModel::effectiveWidth() const
 {
     return std::max(m_viewWidth, 1);
 }
 
-float MvMemoryRuler::computeMinRatio() const
+float MvRulerModel::computeMinRatio() const
 {
     return float(effectiveWidth() / double(std::max<qint64>(m_state.total, 1)));
 }
 
-qint64 MvMemoryRuler::visibleFramesFor(float ratio) const
+qint64 MvRulerModel::visibleFramesFor(float ratio) const
 {
     const qint64 frames = qRound64(effectiveWidth() / double(ratio));
     return qBound<qint64>(1, frames, std::max<qint64>(m_state.total, 1));
 }
 
-qint64 MvMemoryRuler::clampStart(qint64 start, qint64 visible) const
+qint64 MvRulerModel::clampStart(qint64 start, qint64 visible) const
 {
     return qBound<qint64>(0, start, std::max<qint64>(0, m_state.total - visible));
 }
 
-void MvMemoryRuler::applyRatio(float ratio, qint64 anchorFrame, int anchorX)
+void MvRulerModel::applyRatio(float ratio, qint64 anchorFrame, int anchorX)
 {
     ratio = qBound(m_state.minRatio, ratio, maxZoomRatio());
     if (ratio == m_state.ratio)
@@ -301,7 +301,7 @@ void MvMemoryRuler::applyRatio(float ratio, qint64 anchorFrame, int anchorX)
     notifyChanges(before);
 }
 
-void MvMemoryRuler::refit()
+void MvRulerModel::refit()
 {
     // A ruler zoomed out all the way stays so when the length or the width changes.
     const bool wasFit = m_state.ratio <= m_state.minRatio;
@@ -314,7 +314,7 @@ void MvMemoryRuler::refit()
     m_state.start = clampStart(m_state.start, m_state.visible);
 }
 
-void MvMemoryRuler::anchorFor(qint64* frame, int* x) const
+void MvRulerModel::anchorFor(qint64* frame, int* x) const
 {
     if (m_zooming) {
         *frame = m_zoomAnchorFrame;
@@ -331,7 +331,7 @@ void MvMemoryRuler::anchorFor(qint64* frame, int* x) const
     }
 }
 
-void MvMemoryRuler::notifyChanges(const State& before)
+void MvRulerModel::notifyChanges(const State& before)
 {
     const State after = m_state;
     if (before.total != after.total)
@@ -348,7 +348,7 @@ void MvMemoryRuler::notifyChanges(const State& before)
         notify(CurrentFrameChanged);
 }
 
-void MvMemoryRuler::notify(int kind)
+void MvRulerModel::notify(int kind)
 {
     // Observers may unregister (themselves or others) while being told; walk a copy.
     const QList<IMvTimelineRulerEventObserover*> observers = m_observers;

@@ -1,4 +1,4 @@
-#include "Memory/MvMemoryRuler.h"
+#include "MvRulerModel.h"
 
 #include <QScopedPointer>
 #include <QtTest>
@@ -22,7 +22,7 @@ public:
 };
 }
 
-class tst_MvMemoryRuler : public QObject
+class tst_MvRulerModel : public QObject
 {
     Q_OBJECT
 
@@ -37,19 +37,19 @@ private Q_SLOTS:
 private:
     // 1000 px wide over a one-minute timeline at 30 fps, zoomed out all the way.
     QScopedPointer<IMvTimelineRuler> m_ruler;
-    MvMemoryRuler* memory() const { return static_cast<MvMemoryRuler*>(m_ruler.data()); }
+    MvRulerModel* memory() const { return static_cast<MvRulerModel*>(m_ruler.data()); }
 };
 
-void tst_MvMemoryRuler::init()
+void tst_MvRulerModel::init()
 {
     m_ruler.reset(IMvTimelineRuler::createInstance());
-    QVERIFY(dynamic_cast<MvMemoryRuler*>(m_ruler.data()));
+    QVERIFY(dynamic_cast<MvRulerModel*>(m_ruler.data()));
     m_ruler->setFrameRate(30, 1);
     m_ruler->setViewWidth(1000);
     m_ruler->setTotalFrames(1800);
 }
 
-void tst_MvMemoryRuler::zoomFitsTheViewDoublesPerStepAndClamps()
+void tst_MvRulerModel::zoomFitsTheViewDoublesPerStepAndClamps()
 {
     QCOMPARE(m_ruler->visibleEndFrame(), qint64(1800));
     const float fit = m_ruler->zoomRatio();
@@ -58,7 +58,7 @@ void tst_MvMemoryRuler::zoomFitsTheViewDoublesPerStepAndClamps()
     QVERIFY(qAbs(m_ruler->zoomRatio() - 2 * fit) < 1e-4f);
     QCOMPARE(m_ruler->visibleFrames(), qint64(900));
     m_ruler->zoom(-5000);
-    QCOMPARE(m_ruler->zoomRatio(), MvMemoryRuler::kMaxPixelsPerFrame);
+    QCOMPARE(m_ruler->zoomRatio(), MvRulerModel::kMaxPixelsPerFrame);
     m_ruler->zoom(500);
     QCOMPARE(m_ruler->zoomRatio(), m_ruler->minZoomRatio());
     // A fitted ruler stays fitted to a new width and length.
@@ -67,9 +67,9 @@ void tst_MvMemoryRuler::zoomFitsTheViewDoublesPerStepAndClamps()
     QCOMPARE(m_ruler->visibleEndFrame(), qint64(1080000));
 }
 
-void tst_MvMemoryRuler::pixelConversionsAreExact()
+void tst_MvRulerModel::pixelConversionsAreExact()
 {
-    for (float ratio : { 1.0f, 1.5f, MvMemoryRuler::kMaxPixelsPerFrame }) {
+    for (float ratio : { 1.0f, 1.5f, MvRulerModel::kMaxPixelsPerFrame }) {
         m_ruler->setZoomRatio(ratio);
         m_ruler->setCurrentFrame(1000);
         for (qint64 frame = m_ruler->visibleStartFrame(); frame <= m_ruler->visibleEndFrame(); ++frame)
@@ -81,14 +81,14 @@ void tst_MvMemoryRuler::pixelConversionsAreExact()
     QCOMPARE(m_ruler->framesInPixels(30), 90);
 }
 
-void tst_MvMemoryRuler::ticksAcrossEveryZoomMakeRoundUnitsAndStayApart()
+void tst_MvRulerModel::ticksAcrossEveryZoomMakeRoundUnitsAndStayApart()
 {
     m_ruler->setFrameRate(30000, 1001);
     m_ruler->setViewWidth(3840);
     m_ruler->setTotalFrames(30 * 3600 * 10);
     qint64 previous = m_ruler->framesPerTick();
     while (m_ruler->zoomRatio() < memory()->maxZoomRatio()) {
-        QVERIFY(m_ruler->tickSpacing() >= MvMemoryRuler::kMinTickSpacing);
+        QVERIFY(m_ruler->tickSpacing() >= MvRulerModel::kMinTickSpacing);
         const qint64 major = m_ruler->framesPerTick() * 5;
         QVERIFY2(major == 5 || major == 10 || major == 15 || major % 30 == 0, qPrintable(QString::number(major)));
         QVERIFY(m_ruler->framesPerTick() <= previous);
@@ -98,7 +98,7 @@ void tst_MvMemoryRuler::ticksAcrossEveryZoomMakeRoundUnitsAndStayApart()
     QCOMPARE(m_ruler->framesPerTick(), qint64(1));
 }
 
-void tst_MvMemoryRuler::currentFrameAndRangeStayInsideTheTimeline()
+void tst_MvRulerModel::currentFrameAndRangeStayInsideTheTimeline()
 {
     m_ruler->setVisualRange(0, 200);
     m_ruler->setCurrentFrame(230);
@@ -115,7 +115,7 @@ void tst_MvMemoryRuler::currentFrameAndRangeStayInsideTheTimeline()
     QCOMPARE(m_ruler->currentFrame(), qint64(900));
 }
 
-void tst_MvMemoryRuler::observersAreToldOfRealChangesOnlyAndAfterTheState()
+void tst_MvRulerModel::observersAreToldOfRealChangesOnlyAndAfterTheState()
 {
     KindRecorder recorder;
     m_ruler->addObserver(&recorder);
@@ -156,5 +156,5 @@ void tst_MvMemoryRuler::observersAreToldOfRealChangesOnlyAndAfterTheState()
     QCOMPARE(memory()->observerCount(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_MvMemoryRuler)
-#include "tst_MvMemoryRuler.moc"
+QTEST_GUILESS_MAIN(tst_MvRulerModel)
+#include "tst_MvRulerModel.moc"

@@ -8,7 +8,7 @@
 // The ruler of the in-memory model. The zoom ratio is in view pixels per frame; the smallest
 // ratio shows the whole timeline in the view, the largest gives a frame kMaxPixelsPerFrame pixels.
 // Frame x sits at pixel (x - visibleStart) * ratio, rounded to the nearest pixel.
-class MVVBLMODEL_EXPORT MvMemoryRuler : public IMvTimelineRuler
+class MVVBLMODEL_EXPORT MvRulerModel : public IMvTimelineRuler
 {
 public:
     static constexpr float kMaxPixelsPerFrame = 24.0f;
@@ -17,8 +17,8 @@ public:
     // A zoom step of this many units doubles (or halves) the ratio.
     static constexpr double kZoomUnitsPerDoubling = 45.0;
 
-    MvMemoryRuler();
-    ~MvMemoryRuler() override;
+    MvRulerModel();
+    ~MvRulerModel() override;
 
     void addObserver(IMvTimelineRulerEventObserover* observer) override;
     void removeObserver(IMvTimelineRulerEventObserover* observer) override;
