@@ -12,7 +12,8 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
     return type == other.type && start == other.start && end == other.end && name == other.name
         && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
-        && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames;
+        && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
+        && content == other.content;
 }
 
 // ---- transitions
@@ -342,6 +343,12 @@ void MvMemoryClip::setName(const QString& name)
 {
     MvMemoryTimeline::Edit edit(m_timeline, "setName", QStringLiteral("rename clip"));
     change()->name = name;
+}
+
+void MvMemoryClip::setCompoundContent(MvMemoryTimeline* content)
+{
+    MvMemoryTimeline::Edit edit(m_timeline, "setCompoundContent", QStringLiteral("set compound content"));
+    change()->content = content;
 }
 
 void MvMemoryClip::setEnabled(bool enabled)

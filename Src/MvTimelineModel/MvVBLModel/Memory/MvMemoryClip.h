@@ -131,6 +131,8 @@ struct MvMemoryClipState
     MvKeyFrameMap videoKeys;
     MvKeyFrameMap audioKeys;
     QMap<int, qint64> freezeFrames; // id -> clip frame
+    // What a compound clip shows: a timeline of its own, shared by every copy of the clip.
+    MvMemoryTimeline* content = nullptr;
 
     bool operator==(const MvMemoryClipState& other) const;
     bool operator!=(const MvMemoryClipState& other) const { return !(*this == other); }
@@ -188,6 +190,9 @@ public:
     // off the clip.
     bool addFreezeFrame(int id, qint64 clipFrame);
     qint64 freezeFrameAt(int id) const { return state().freezeFrames.value(id, -1); }
+    // Makes the clip a compound clip over that timeline (null: an ordinary clip again).
+    void setCompoundContent(MvMemoryTimeline* content);
+    MvMemoryTimeline* compoundContent() const { return state().content; }
     // The properties keyed at a clip frame of one side (empty when there is no keyframe).
     MvKeyFrameProperties keyFrameProperties(bool audio, qint64 clipFrame) const;
 

@@ -223,6 +223,30 @@ MvMemoryTimeline::MvMemoryTimeline(int kind)
 
 MvMemoryTimeline::~MvMemoryTimeline() = default;
 
+void MvMemoryTimeline::setProjectId(int project)
+{
+    Q_D(MvMemoryTimeline);
+    d->projectId = project;
+}
+
+int MvMemoryTimeline::projectId() const
+{
+    Q_D(const MvMemoryTimeline);
+    return d->projectId;
+}
+
+void MvMemoryTimeline::setName(const QString& name)
+{
+    Q_D(MvMemoryTimeline);
+    d->name = name;
+}
+
+QString MvMemoryTimeline::name() const
+{
+    Q_D(const MvMemoryTimeline);
+    return d->name;
+}
+
 int MvMemoryTimeline::kind() const
 {
     Q_D(const MvMemoryTimeline);

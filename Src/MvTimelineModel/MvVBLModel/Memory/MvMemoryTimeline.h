@@ -102,6 +102,13 @@ public:
     void setFrameRate(int numerator, int denominator);
     MVVBLMODEL::MvFrameRate frameRate() const;
 
+    // The project the timeline belongs to, and its name: compound clips refuse to be put into a
+    // timeline of another project or into the timeline they show.
+    void setProjectId(int project);
+    int projectId() const;
+    void setName(const QString& name);
+    QString name() const;
+
     // Answers a test or host can force.
     void setSeekAfterDelete(bool seek);
     void setVirtualPlayheadAllowed(bool allowed);

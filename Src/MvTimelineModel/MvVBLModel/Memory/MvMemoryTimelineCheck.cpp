@@ -209,6 +209,9 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     for (auto it = state.freezeFrames.cbegin(); it != state.freezeFrames.cend(); ++it)
         freeze.append(num(it.key()) % QLatin1Char('@') % num(it.value()));
     text += QLatin1String("\n    freeze frames: ") % freeze.join(QLatin1Char(' '));
+    if (state.content)
+        text += QLatin1String("\n    compound of project ") % num(state.content->projectId()) % QLatin1String(" \"")
+            % state.content->name() % QLatin1Char('"');
     const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
     for (const MvMemoryTransition* transition : transitions) {
         text += QLatin1String("\n    transition ") % num(transition->identifier()) % QLatin1String(" at ")

@@ -76,6 +76,8 @@ public:
     Q_DECLARE_PUBLIC(MvMemoryTimeline)
 
     int kind;
+    int projectId = 0;
+    QString name;
     MVVBLMODEL::MvFrameRate frameRate;
     // Made first and deleted last: every undoable object reports to it.
     MvMemoryUndoRecorder* recorder = nullptr;
