@@ -6,8 +6,12 @@
 #include <QHash>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
+// The last frame a clip may cover: the duration (last end + 1) stays a 64-bit count.
+constexpr qint64 kLastFrame = std::numeric_limits<qint64>::max() - 1;
+
 // Keys at offset and after go to the returned map, rebased to offset; the rest stay.
 template <typename Map> Map splitTail(Map& source, qint64 offset)
 {
@@ -150,7 +154,8 @@ bool MvMemoryTimelinePrivate::moveAllowed(const QList<MvMemoryClip*>& clips, con
         MvMemoryTrack* target = targets.at(i);
         if (!editable(clip) || !target || target->isLocked() || !target->accepts(clip->type()))
             return false;
-        if (clip->start() + frameOffset < 0)
+        // A move past the last frame is refused, never wrapped around.
+        if (clip->start() + frameOffset < 0 || (frameOffset > 0 && clip->end() > kLastFrame - frameOffset))
             return false;
         spans[target].emplace_back(clip->start() + frameOffset, clip->end() + frameOffset);
     }
