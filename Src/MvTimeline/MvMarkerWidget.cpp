@@ -29,6 +29,14 @@ void MvMarkerWidget::setPresenter(MvMarkerPresenter* presenter)
     connect(presenter, &MvMarkerPresenter::signalMarkerCountChanged, this, &MvMarkerWidget::slotMarkerCountChanged);
     connect(presenter, &MvMarkerPresenter::signalClearTimelineSelectedMarker, this,
         &MvMarkerWidget::slotClearTimelineSelectedMarker);
+    // A host may delete the presenter first; the strip then shows no markers.
+    connect(presenter, &QObject::destroyed, this, [this, presenter]() {
+        if (m_presenter != presenter)
+            return;
+        m_presenter = nullptr;
+        m_markers.clear();
+        update();
+    });
     slotMarkerCountChanged();
 }
 

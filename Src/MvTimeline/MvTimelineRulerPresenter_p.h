@@ -5,6 +5,8 @@
 #include "MvRulerTickLayout_p.h"
 #include "MvTimelineRulerPresenter.h"
 
+#include <QPointer>
+
 class MvTimelineRulerPresenterPrivate : public IMvTimelineRulerEventObserover, public IMvPlayheadEventObserver
 {
     Q_DECLARE_PUBLIC(MvTimelineRulerPresenter)
@@ -32,7 +34,8 @@ public:
     void updateTimelineMenu();
     void paint(QWidget* widget);
 
-    MvTimelinePresenter* timelinePresenter;
+    // Not owned; a host may delete it first. The ruler and playhead stay reachable: the model outlives both.
+    QPointer<MvTimelinePresenter> timelinePresenter;
     MvTimelineRulerPresenter* q_ptr;
     IMvTimelineRuler* ruler = nullptr;
     IMvTimelinePlayhead* playhead = nullptr;

@@ -172,7 +172,8 @@ void MvMemoryPlayhead::timelineEdited()
 bool MvMemoryPlayhead::isFrameSettled(qint64 frame) const
 {
     const qint64 second = qMax<qint64>(1, qint64(std::ceil(m_timeline->frameRate().fps())));
-    return qAbs(frame - m_settledFrame) <= second;
+    // Compared from the settled frame, so that no frame of the 64-bit range overflows.
+    return m_settledFrame - second <= frame && frame <= m_settledFrame + second;
 }
 
 void MvMemoryPlayhead::setSeekHold(bool hold)

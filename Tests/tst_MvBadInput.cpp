@@ -1,0 +1,762 @@
+#include "IMvClipItems.h"
+#include "IMvKeyFrameSelector.h"
+#include "IMvSelection.h"
+#include "IMvTimelinePlayhead.h"
+#include "IMvTrack.h"
+#include "IMvUndoRedoService.h"
+#include "Memory/MvMemoryClip.h"
+#include "Memory/MvMemoryMarker.h"
+#include "Memory/MvMemoryTimeline.h"
+#include "Memory/MvMemoryUndoService.h"
+#include "Memory/MvSampleProject.h"
+#include "MvEditFixture.h"
+#include "MvKeyFramePresenter.h"
+#include "MvMarkerEditDialog.h"
+#include "MvMarkerPresenter.h"
+#include "MvMarkerWidget.h"
+#include "MvPureTimelineRulerWidget.h"
+#include "MvRecordingScene.h"
+#include "MvRulerModel.h"
+#include "MvTimelinePlayheadPresenter.h"
+#include "MvTimelinePlayheadWidget.h"
+#include "MvTimelinePresenter.h"
+#include "MvTimelineRenderWidget.h"
+#include "MvTimelineRulerPresenter.h"
+#include "MvTimelineRulerWidget.h"
+#include "MvTimelineVirtualPlayheadPresenter.h"
+
+#include <QMouseEvent>
+#include <QtTest>
+
+#include <functional>
+#include <limits>
+
+// Every public command and widget entry point, called with what a careless host or a broken model
+// may hand it: no timeline, null or foreign or deleted clips, empty lists, rows and frames out of
+// range, the extremes of 64-bit frames. Each call gives its refusal (false, null, nothing done, the
+// log record where there is one) and leaves the model, the undo stack and the selection as they
+// were; none may crash or reach past what it was given (the sanitizer build checks that).
+
+using namespace MVVBLMODEL;
+
+namespace {
+constexpr qint64 kMaxFrame = std::numeric_limits<qint64>::max();
+constexpr qint64 kMinFrame = std::numeric_limits<qint64>::min();
+constexpr int kMaxInt = std::numeric_limits<int>::max();
+constexpr int kMinInt = std::numeric_limits<int>::min();
+
+// The sample project with every presenter a host makes over it. Clip numbers are those of the
+// model dump: c0 "Harbour at dawn" (0..599, grouped with its sound c1), c3 the still with a freeze
+// frame, c5 the screen recording with smart-keying nodes, c12 "Waves" (1500..1559, audio).
+struct Project
+{
+    Project()
+    {
+        MvSampleProject::build(timeline);
+        timeline.addChangeListener([]() {});
+        presenter.setScene(&scene);
+        presenter.initVirtualPlayheadPresenter();
+        playhead.setScene(&scene);
+        foreignTimeline.addTrack(TrackType_Picture);
+        foreign = foreignTimeline.addClip(0, ClipType_Video, 0, 99, QStringLiteral("elsewhere"));
+        // A clip that was on the timeline and is no more.
+        removed = timeline.liveClips().at(9);
+        timeline.deleteClips({ removed });
+        timeline.undoService()->clear();
+    }
+
+    MvMemoryClip* clip(int number) const { return timeline.allClips().at(number); }
+    void select(const QList<IMvClip*>& clips) { timeline.selection()->select(clips); }
+    MvKeyFramePresenter& keyFrames() { return *presenter.keyFramePresenter(); }
+    MvTimelineVirtualPlayheadPresenter& virtualPlayhead() { return *presenter.virtualPlayheadPresenter(); }
+    QString snapshot() const
+    {
+        const IMvKeyFrameSelector::MvSelectData keys = timeline.keyFrameSelector()->currentSelection();
+        int subItem = -1;
+        timeline.subItemSelection()->selectedId(subItem);
+        return QStringLiteral("undo %1 redo %2 keys %3:%4 sub-item %5\n")
+                   .arg(timeline.undoService()->undoCount())
+                   .arg(timeline.undoService()->redoCount())
+                   .arg(numberOf(keys.clip))
+                   .arg(keys.frames.size())
+                   .arg(subItem)
+            + timeline.stateText();
+    }
+    static QString numberOf(const IMvClip* clip)
+    {
+        const auto* own = dynamic_cast<const MvMemoryClip*>(clip);
+        return own ? QString::number(own->number()) : QStringLiteral("-");
+    }
+
+    MvMemoryTimeline timeline;
+    MvMemoryTimeline foreignTimeline;
+    MvMemoryClip* foreign = nullptr;
+    MvMemoryClip* removed = nullptr;
+    MvRecordingScene scene;
+    MvLogCapture log;
+    MvTimelinePresenter presenter { nullptr, &timeline };
+    MvTimelinePlayheadPresenter playhead { &presenter, nullptr };
+    MvTimelineRulerPresenter ruler { &presenter, nullptr };
+};
+
+using Prepare = std::function<void(Project&)>;
+using Call = std::function<QVariant(Project&)>;
+}
+
+Q_DECLARE_METATYPE(Prepare)
+Q_DECLARE_METATYPE(Call)
+
+class tst_MvBadInput : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commandsRefuseAndChangeNothing_data();
+    void commandsRefuseAndChangeNothing();
+    void withoutATimelineNothingHappens_data();
+    void withoutATimelineNothingHappens();
+    void widgetsTakeExtremes_data();
+    void widgetsTakeExtremes();
+
+private:
+    void addCommandRows();
+    void addKeyFrameAndViewRows();
+};
+
+namespace {
+const Prepare nothing = [](Project&) {};
+const Prepare selectOpening = [](Project& p) { p.select({ p.clip(0) }); };
+QVariant done(bool value)
+{
+    return QVariant(value);
+}
+const QVariant kNoResult; // a void command
+}
+
+void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QVariant>("result");
+    // The refusal's log record: "text|level|function", empty when none is due.
+    QTest::addColumn<QString>("record");
+    addCommandRows();
+    addKeyFrameAndViewRows();
+}
+
+void tst_MvBadInput::addCommandRows()
+{
+    const auto row
+        = [](const char* name, const Prepare& prepare, const Call& call, const QVariant& result,
+              const QString& record = QString()) { QTest::newRow(name) << prepare << call << result << record; };
+    using P = Project;
+    row(
+        "split at the last 64-bit frame", nothing,
+        [](P& p) { return done(p.presenter.splitClips(kMaxFrame, true, true)); }, false);
+    row(
+        "split at the first 64-bit frame (the playhead, at 0)", nothing,
+        [](P& p) { return done(p.presenter.splitClips(kMinFrame, true, true)); }, false);
+    row(
+        "split of no clips", nothing, [](P& p) { return done(p.presenter.splitClips(300, {}, true, true)); }, false);
+    row(
+        "split of a null clip", nothing,
+        [](P& p) { return done(p.presenter.splitClips(300, { nullptr }, true, true)); }, false);
+    row(
+        "split of another timeline's clip", nothing,
+        [](P& p) { return done(p.presenter.splitClips(50, { p.foreign }, true, true)); }, false);
+    row(
+        "split of a deleted clip", nothing,
+        [](P& p) { return done(p.presenter.splitClips(2200, { p.removed }, true, true)); }, false);
+    row(
+        "split of a clip past its end", nothing,
+        [](P& p) { return done(p.presenter.splitClips(kMaxFrame, { p.clip(2) }, true, true)); }, false);
+    row(
+        "ungroup before a split of null clips", nothing,
+        [](P& p) {
+            bool regroup = true;
+            return done(p.presenter.ungroupBeforeSplit({ nullptr, p.foreign }, regroup) && !regroup);
+        },
+        true);
+    row(
+        "regroup with more pieces than sources", nothing,
+        [](P& p) { return done(p.presenter.groupAfterSplit({}, { nullptr })); }, false);
+    row(
+        "regroup with no pieces", nothing, [](P& p) { return done(p.presenter.groupAfterSplit({ nullptr }, {})); },
+        true);
+    row(
+        "trim start with nothing selected", nothing, [](P& p) { return done(p.presenter.trimStartToPlayhead()); },
+        false);
+    row(
+        "trim end with two clips selected",
+        [](P& p) {
+            p.select({ p.clip(0), p.clip(2) });
+        },
+        [](P& p) { return done(p.presenter.trimEndToPlayhead()); }, false);
+    row(
+        "trim end with a transition selected",
+        [](P& p) { p.timeline.selection()->selectItems({ p.clip(2)->liveTransitions().first() }); },
+        [](P& p) { return done(p.presenter.trimEndToPlayhead()); }, false);
+    row(
+        "delete with actions switched off",
+        [](P& p) {
+            p.select({ p.clip(3) });
+            p.presenter.setActionEnabled(false);
+        },
+        [](P& p) { return done(p.presenter.deleteSelectedClips()); }, false,
+        QStringLiteral("cannt do action|16|MvTimelinePresenterPrivate::deleteSelectedClips"));
+    row(
+        "delete with nothing selected", nothing, [](P& p) { return done(p.presenter.deleteSelectedClips()); }, false);
+    row(
+        "ripple delete with nothing selected", nothing,
+        [](P& p) { return done(p.presenter.rippleDeleteSelectedClips()); }, false,
+        QStringLiteral("clip is null|8|MvTimelinePresenterPrivate::rippleDeleteSelectedClips"));
+    row(
+        "delete key with nothing selected", nothing, [](P& p) { return done(p.presenter.deleteItems(true)); }, false);
+    row(
+        "move by no frames", selectOpening, [](P& p) { return done(p.presenter.moveClipsHorizontal(0)); }, false);
+    row(
+        "move past the last 64-bit frame", selectOpening,
+        [](P& p) { return done(p.presenter.moveClipsHorizontal(kMaxFrame)); }, false);
+    row(
+        "move a clip at frame 0 back by the most frames", selectOpening,
+        [](P& p) { return done(p.presenter.moveClipsHorizontal(kMinFrame)); }, false);
+    row(
+        "move with nothing selected", nothing, [](P& p) { return done(p.presenter.moveClipsHorizontal(-30)); }, false);
+    row(
+        "move down by the most rows", selectOpening, [](P& p) { return done(p.presenter.moveClipsVertical(kMaxInt)); },
+        false);
+    row(
+        "move up by the most rows", selectOpening, [](P& p) { return done(p.presenter.moveClipsVertical(kMinInt)); },
+        false);
+    row(
+        "move by as many rows as there are", selectOpening,
+        [](P& p) { return done(p.presenter.moveClipsVertical(p.timeline.trackCount())); }, false);
+    row(
+        "row height of rows that do not exist", nothing,
+        [](P& p) {
+            p.presenter.adjustTrackHeight(-1, 0);
+            p.presenter.adjustTrackHeight(kMaxInt, 2);
+            p.presenter.adjustTrackHeight(kMinInt, kMinInt);
+            return QVariant(p.timeline.trackAt(0)->height());
+        },
+        60);
+    row(
+        "marker where the timeline has one", [](P& p) { p.timeline.playhead()->setCurrentFrame(300); },
+        [](P& p) {
+            p.presenter.addMarker(QColor(Qt::red));
+            return kNoResult;
+        },
+        kNoResult);
+    row(
+        "remove the selected marker with none selected", nothing,
+        [](P& p) { return done(p.presenter.removeSelectedMarker()); }, false);
+    row(
+        "edit a marker where there is none", nothing,
+        [](P& p) {
+            p.presenter.editMarker();
+            return kNoResult;
+        },
+        kNoResult, QStringLiteral("no marker at playhead|16|MvTimelinePresenterPrivate::editMarker"));
+    row(
+        "rotate with nothing selected", nothing,
+        [](P& p) {
+            p.presenter.rotate90CW();
+            p.presenter.rotate90CCW();
+            return kNoResult;
+        },
+        kNoResult);
+    row(
+        "rotate a transition",
+        [](P& p) { p.timeline.selection()->selectItems({ p.clip(2)->liveTransitions().first() }); },
+        [](P& p) {
+            p.presenter.rotate90CW();
+            return kNoResult;
+        },
+        kNoResult);
+    row(
+        "remove a freeze frame of a clip without picture",
+        [](P& p) {
+            p.select({ p.clip(12) });
+            p.timeline.subItemSelection()->select(1);
+        },
+        [](P& p) { return done(p.presenter.removeSelectedFreezeFrame()); }, false);
+    row(
+        "remove a freeze frame that does not exist",
+        [](P& p) {
+            p.select({ p.clip(3) });
+            p.timeline.subItemSelection()->select(kMaxInt);
+        },
+        [](P& p) { return done(p.presenter.removeSelectedFreezeFrame()); }, false);
+    row(
+        "remove a smart-keying node with none selected", [](P& p) { p.select({ p.clip(5) }); },
+        [](P& p) { return done(p.presenter.removeSelectedSmartKeyingNode()); }, false);
+    row(
+        "jump to the selection's start with nothing selected", nothing,
+        [](P& p) {
+            p.presenter.checkAndMoveToSelectedClipStartPos();
+            return done(p.presenter.getFirstSelectedClip() == nullptr);
+        },
+        true);
+    row(
+        "seek to the extremes", nothing,
+        [](P& p) {
+            p.presenter.seek(kMaxFrame);
+            p.presenter.seek(kMinFrame);
+            return QVariant(p.scene.count(MessageId::Seek));
+        },
+        2);
+    row(
+        "placeholder at the extremes", nothing,
+        [](P& p) {
+            p.presenter.showEmptyClip(kMaxFrame, kMinFrame, kMinInt, kMaxInt);
+            p.presenter.deleteEmptyClipItem(true);
+            p.presenter.hideEmptyClip();
+            return done(p.presenter.emptyClipItemVisible());
+        },
+        false);
+    row(
+        "detached sound for no clip", nothing,
+        [](P& p) {
+            struct Host : MvTimelinePresenter
+            {
+                using MvTimelinePresenter::calcDetachAudioTrackIndex;
+                using MvTimelinePresenter::MvTimelinePresenter;
+            } host(nullptr, &p.timeline);
+            return QVariant(host.calcDetachAudioTrackIndex(nullptr));
+        },
+        -1);
+}
+
+void tst_MvBadInput::addKeyFrameAndViewRows()
+{
+    const auto row = [](const char* name, const Prepare& prepare, const Call& call, const QVariant& result) {
+        QTest::newRow(name) << prepare << call << result << QString();
+    };
+    using P = Project;
+    row(
+        "keyframe on no clip", nothing,
+        [](P& p) {
+            return done(
+                p.keyFrames().addAudioDefaultKeyFrame(nullptr, 0) || p.keyFrames().addVideoDefaultKeyFrame(nullptr, 0));
+        },
+        false);
+    row(
+        "keyframe at the 64-bit extremes", nothing,
+        [](P& p) {
+            return done(p.keyFrames().addVideoDefaultKeyFrame(p.clip(0), kMaxFrame)
+                || p.keyFrames().addVideoDefaultKeyFrame(p.clip(0), kMinFrame)
+                || p.keyFrames().addAudioDefaultKeyFrame(p.clip(1), kMaxFrame)
+                || p.keyFrames().addAudioDefaultKeyFrame(p.clip(1), kMinFrame));
+        },
+        false);
+    // (A clip of another timeline may take one: a compound clip's inner timeline is edited from outside.)
+    row(
+        "keyframe on a deleted clip", nothing,
+        [](P& p) {
+            return done(p.keyFrames().addVideoDefaultKeyFrame(p.removed, 2200)
+                || p.keyFrames().addAudioDefaultKeyFrame(p.removed, 2200));
+        },
+        false);
+    row(
+        "keyframe shortcut with nothing selected", nothing,
+        [](P& p) { return done(p.keyFrames().addKeyFrame_ShortcutKey()); }, false);
+    row(
+        "keyframe copy, paste and removal with nothing picked", selectOpening,
+        [](P& p) {
+            return done(p.keyFrames().copySelectedKeyFrames() || p.keyFrames().pasteKeyFrames()
+                || p.keyFrames().removeSelectedKeyFrame() || p.keyFrames().canCopyKeyFrames());
+        },
+        false);
+    row(
+        "keyframes cleared and picked with nothing selected", nothing,
+        [](P& p) {
+            p.keyFrames().moveToNextKeyFrame();
+            p.keyFrames().moveToPrevKeyFrame();
+            return done(p.keyFrames().clearAllAudioKeyFrames() || p.keyFrames().clearAllVideoKeyFrames()
+                || p.keyFrames().selectedAllAudioKeyFrames() || p.keyFrames().selectedAllVideoKeyFrames());
+        },
+        false);
+    row(
+        "keyframe kinds out of range", nothing,
+        [](P& p) {
+            return done(p.keyFrames().isSupportAudioKeyFrame(kMinInt) || p.keyFrames().isSupportVideoKeyFrame(kMaxInt)
+                || p.keyFrames().isKeyFrameItemEnabled(nullptr));
+        },
+        false);
+    row(
+        "virtual playhead at the extremes", nothing,
+        [](P& p) {
+            p.virtualPlayhead().seek(kMaxFrame);
+            p.virtualPlayhead().seek(kMinFrame);
+            p.virtualPlayhead().playStateChanged(kMinInt);
+            p.virtualPlayhead().playStateChanged(kMaxInt);
+            p.virtualPlayhead().setVisible(true);
+            return done(p.virtualPlayhead().visible());
+        },
+        false);
+    row(
+        "playhead presenter at the extremes", nothing,
+        [](P& p) {
+            p.playhead.updateViewRect(QRect(0, 0, 800, 200));
+            p.playhead.setSplitButtonSize(QSize(-5, kMaxInt));
+            p.playhead.setSplitButtonMinY(kMaxInt);
+            p.playhead.setSplitButtonY(kMinInt);
+            p.playhead.updatePosition(kMinInt, kMaxInt);
+            p.playhead.updatePosition(kMinInt, kMinInt);
+            return QVariant(p.playhead.splitButtonY());
+        },
+        kMaxInt);
+    row(
+        "ruler presenter at the extremes", nothing,
+        [](P& p) {
+            p.ruler.setViewWith(kMinInt);
+            p.ruler.zoom(kMaxInt);
+            p.ruler.zoom(kMinInt);
+            p.ruler.changeZoomRatio(std::numeric_limits<float>::quiet_NaN());
+            p.ruler.changeZoomRatio(-std::numeric_limits<float>::infinity());
+            p.ruler.changePlayheadPosition(kMinInt);
+            p.ruler.moveRulerRange(true);
+            p.ruler.paint(nullptr);
+            return done(p.timeline.ruler()->zoomRatio() > 0 && std::isfinite(p.timeline.ruler()->zoomRatio()));
+        },
+        true);
+}
+
+void tst_MvBadInput::commandsRefuseAndChangeNothing()
+{
+    QFETCH(Prepare, prepare);
+    QFETCH(Call, call);
+    QFETCH(QVariant, result);
+    QFETCH(QString, record);
+
+    Project project;
+    prepare(project);
+    project.log.clear();
+    const QString before = project.snapshot();
+    QCOMPARE(call(project), result);
+    QCOMPARE(mvStateDiff(project.snapshot(), before), QString());
+    QCOMPARE(project.timeline.checkInvariants(), QString());
+    if (!record.isEmpty()) {
+        const QStringList parts = record.split(QLatin1Char('|'));
+        QCOMPARE(mvCheckRecord(project.log, parts.at(0), parts.at(1).toInt(), parts.at(2)), QString());
+    }
+}
+
+namespace {
+// Presenters over no timeline at all, and presenters over no timeline presenter.
+struct Orphans
+{
+    Orphans()
+    {
+        presenter.setScene(&scene);
+        presenter.initVirtualPlayheadPresenter();
+    }
+    MvRecordingScene scene;
+    MvLogCapture log;
+    MvTimelinePresenter presenter { nullptr, nullptr };
+    MvTimelinePlayheadPresenter playhead { &presenter, nullptr };
+    MvTimelinePlayheadPresenter lonePlayhead { nullptr, nullptr };
+    MvTimelineRulerPresenter ruler { &presenter, nullptr };
+    MvTimelineRulerPresenter loneRuler { nullptr, nullptr };
+};
+
+using OrphanCall = std::function<QVariant(Orphans&)>;
+}
+
+Q_DECLARE_METATYPE(OrphanCall)
+
+void tst_MvBadInput::withoutATimelineNothingHappens_data()
+{
+    QTest::addColumn<OrphanCall>("call");
+    QTest::addColumn<QVariant>("result");
+    QTest::addColumn<QString>("record");
+    using O = Orphans;
+    const auto row = [](const char* name, const OrphanCall& call, const QVariant& result,
+                         const QString& record = QString()) { QTest::newRow(name) << call << result << record; };
+
+    row(
+        "clip editing",
+        [](O& o) {
+            MvTimelinePresenter& t = o.presenter;
+            bool regroup = false;
+            return done(t.splitClips(0, true, true) || t.splitClips(5, { nullptr }, true, true)
+                || !t.ungroupBeforeSplit({ nullptr }, regroup) || t.groupAfterSplit({}, { nullptr })
+                || t.trimStartToPlayhead() || t.trimEndToPlayhead() || t.deleteSelectedClips() || t.deleteItems(false)
+                || t.moveClipsHorizontal(kMinFrame) || t.moveClipsVertical(1) || t.getFirstSelectedClip());
+        },
+        false);
+    row(
+        "ripple delete", [](O& o) { return done(o.presenter.rippleDeleteSelectedClips()); }, false,
+        QStringLiteral("clip is null|8|MvTimelinePresenterPrivate::rippleDeleteSelectedClips"));
+    row(
+        "questions",
+        [](O& o) {
+            MvTimelinePresenter& t = o.presenter;
+            return done(t.hasEmptyCap() || t.canSplitClip() || t.canTrimToPlayhead() || t.canDeleteClip()
+                || t.canDeleteItems() || t.canRemoveMarker() || t.isOpenVirtualPlayhead() || t.emptyClipItemVisible());
+        },
+        false);
+    row(
+        "items and the view",
+        [](O& o) {
+            MvTimelinePresenter& t = o.presenter;
+            t.checkAndMoveToSelectedClipStartPos();
+            t.fitTimeline();
+            t.addMarker(QColor(Qt::red));
+            t.rotate90CW();
+            t.rotate90CCW();
+            t.adjustTrackHeight(0, 1);
+            t.checkHidePropertyPanel();
+            return done(t.removeSelectedMarker() || t.removeSelectedFreezeFrame() || t.removeSelectedSmartKeyingNode());
+        },
+        false);
+    row(
+        "marker editing",
+        [](O& o) {
+            o.presenter.editMarker();
+            return kNoResult;
+        },
+        kNoResult, QStringLiteral("playhead is null|16|MvTimelinePresenterPrivate::editMarker"));
+    row(
+        "keyframes",
+        [](O& o) {
+            MvKeyFramePresenter& k = *o.presenter.keyFramePresenter();
+            k.moveToNextKeyFrame();
+            k.moveToPrevKeyFrame();
+            return done(k.addAudioDefaultKeyFrame(nullptr, kMaxFrame) || k.addVideoDefaultKeyFrame(nullptr, kMinFrame)
+                || k.addKeyFrame_ShortcutKey() || k.canCopyKeyFrames() || k.copySelectedKeyFrames()
+                || k.canPasteKeyFrames() || k.pasteKeyFrames() || k.canRemoveKeyFrame() || k.removeSelectedKeyFrame()
+                || k.clearAllAudioKeyFrames() || k.clearAllVideoKeyFrames() || k.selectedAllAudioKeyFrames()
+                || k.selectedAllVideoKeyFrames() || k.isKeyFrameItemEnabled(nullptr));
+        },
+        false);
+    row(
+        "virtual playhead",
+        [](O& o) {
+            MvTimelineVirtualPlayheadPresenter& v = *o.presenter.virtualPlayheadPresenter();
+            v.open();
+            v.seek(kMaxFrame);
+            v.playStateChanged(PlayState_Stopped);
+            v.updateEnable();
+            v.close();
+            MvTimelineVirtualPlayheadPresenter lone(nullptr, nullptr);
+            lone.open();
+            lone.seek(kMinFrame);
+            lone.setVisible(true);
+            lone.playStateChanged(PlayState_Finished);
+            return done(!lone.isOpen() || v.isOpen());
+        },
+        false);
+    row(
+        "playhead presenters",
+        [](O& o) {
+            for (MvTimelinePlayheadPresenter* p : { &o.playhead, &o.lonePlayhead }) {
+                p->updatePosition(kMaxInt, kMinInt);
+                p->setSplitButtonVisible(true);
+                p->splitClips();
+                if (p->playheadVisible() || p->playheadEnabled() || p->splitButtonVisible() || p->splitButtonEnabled()
+                    || !p->splitButtonCaptureRect().isNull() || p->position() != 0
+                    || p->currentPlayheadColor().isValid() || p->splitButtonStatus() != MVWIDGETS::Disabled)
+                    return done(false);
+            }
+            return done(true);
+        },
+        true);
+    row(
+        "ruler presenters",
+        [](O& o) {
+            for (MvTimelineRulerPresenter* r : { &o.ruler, &o.loneRuler }) {
+                r->beginZoom();
+                r->zoom(kMaxInt);
+                r->endZoom();
+                r->changeZoomRatio(2.0f);
+                r->setViewWith(800);
+                r->changePlayheadPosition(kMinInt);
+                r->moveCurrentFrameToCenter();
+                r->moveRulerRange(false);
+                r->updateTimelineMenu();
+                r->paint(nullptr);
+                if (r->zoomRatio() != 0.0f || r->minZoomRatio() != 0.0f || r->totalFrames() != 0
+                    || r->visualFrames() != 0 || r->handlePosition() != 0)
+                    return done(false);
+            }
+            return done(true);
+        },
+        true);
+    row(
+        "time codes of no rate",
+        [](O&) {
+            return QVariant(MvTimelineRulerPresenter::formatTimecode(kMinInt, 0, 0)
+                + MvTimelineRulerPresenter::formatTimecode(kMaxInt, -30, 1)
+                + MvTimelineRulerPresenter::formatTimecode(1, std::numeric_limits<float>::quiet_NaN())
+                + MvTimelineRulerPresenter::formatTimecode(1, std::numeric_limits<float>::infinity()));
+        },
+        QString());
+}
+
+void tst_MvBadInput::withoutATimelineNothingHappens()
+{
+    QFETCH(OrphanCall, call);
+    QFETCH(QVariant, result);
+    QFETCH(QString, record);
+
+    Orphans orphans;
+    QCOMPARE(call(orphans), result);
+    if (!record.isEmpty()) {
+        const QStringList parts = record.split(QLatin1Char('|'));
+        QCOMPARE(mvCheckRecord(orphans.log, parts.at(0), parts.at(1).toInt(), parts.at(2)), QString());
+    }
+}
+
+namespace {
+using WidgetCall = std::function<QVariant()>;
+
+void mouse(QWidget* widget, QEvent::Type type, const QPoint& pos, Qt::MouseButton button)
+{
+    QMouseEvent event(type, pos, widget->mapToGlobal(pos), button,
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button), Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+void wheel(QWidget* widget, int delta)
+{
+    QWheelEvent event(QPointF(10, 10), QPointF(widget->mapToGlobal(QPoint(10, 10))), QPoint(), QPoint(0, delta),
+        Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// Presses, drags, releases and a wheel turn of the most eighths of a degree, far outside the
+// widget too (a million pixels away: further is no screen's).
+void handle(QWidget* widget)
+{
+    widget->resize(400, 40);
+    widget->grab();
+    for (const QPoint& pos : { QPoint(10, 10), QPoint(-1000000, 1000000), QPoint(1000000, -1000000) }) {
+        mouse(widget, QEvent::MouseButtonPress, pos, Qt::LeftButton);
+        mouse(widget, QEvent::MouseMove, pos + QPoint(1, 0), Qt::LeftButton);
+        mouse(widget, QEvent::MouseButtonRelease, pos, Qt::LeftButton);
+    }
+    wheel(widget, kMaxInt);
+    wheel(widget, kMinInt);
+    widget->grab();
+}
+}
+
+Q_DECLARE_METATYPE(WidgetCall)
+
+void tst_MvBadInput::widgetsTakeExtremes_data()
+{
+    QTest::addColumn<WidgetCall>("call");
+    QTest::addColumn<QVariant>("result");
+    const auto row = [](const char* name, const WidgetCall& call, const QVariant& result) {
+        QTest::newRow(name) << call << result;
+    };
+
+    row(
+        "ruler widget without a presenter",
+        []() {
+            MvTimelineRulerWidget widget(nullptr, nullptr);
+            handle(&widget);
+            widget.setPresenter(nullptr);
+            return QVariant(widget.eventFilterMgr() != nullptr);
+        },
+        true);
+    row(
+        "playhead widget without a presenter",
+        []() {
+            MvTimelinePlayheadWidget widget(nullptr, nullptr);
+            handle(&widget);
+            QMouseEvent press(QEvent::MouseButtonPress, QPoint(-1000000, -1000000), QPoint(1000000, 1000000),
+                Qt::RightButton, Qt::RightButton, Qt::NoModifier);
+            return QVariant(widget.onFilterEvent(nullptr) || widget.onFilterEvent(&press)
+                || widget.captureItem(QPoint(kMaxInt, kMinInt)) != MvTimelinePlayheadWidget::None);
+        },
+        false);
+    row(
+        "marker widget without a presenter",
+        []() {
+            MvMarkerWidget widget(nullptr, nullptr);
+            handle(&widget);
+            widget.slotMarkerCountChanged();
+            widget.slotClearTimelineSelectedMarker();
+            widget.setPresenter(nullptr);
+            return QVariant(widget.markers().size());
+        },
+        0);
+    row(
+        "render strip without a timeline",
+        []() {
+            MvTimelinePresenter presenter(nullptr, nullptr);
+            MvTimelineRenderWidget strip(&presenter, nullptr);
+            MvTimelineRenderWidget lone(nullptr, nullptr);
+            strip.setFinishedColor(QColor());
+            handle(&strip);
+            handle(&lone);
+            return QVariant(strip.finishedColor().isValid());
+        },
+        false);
+    row(
+        "marker images out of range",
+        []() {
+            struct Markers : MvMarkerPresenter
+            {
+                using MvMarkerPresenter::MvMarkerPresenter;
+                QList<MarkerItem> markerList() override { return { { kMinInt, kMaxInt }, { kMaxInt, kMinInt } }; }
+            } markers(nullptr, nullptr);
+            MvMarkerWidget widget(&markers, nullptr);
+            widget.grab();
+            return QVariant(markers.normalMarkerImage(kMinInt).isNull() && markers.horverMarkerImage(kMaxInt).isNull()
+                && markers.pressMarkerImage(-1).isNull() && MvMarkerPresenter::markerPaletteIndex(QColor()) == -1);
+        },
+        true);
+    row(
+        "marker dialog with a colour out of range",
+        []() {
+            MvMarkerParam param;
+            param.colors = MvMarkerPresenter::markerPalette();
+            param.colorIndex = kMaxInt;
+            MvMarkerEditDialog dialog(param, nullptr);
+            param.colors.clear();
+            param.colorIndex = 3;
+            MvMarkerEditDialog empty(param, nullptr);
+            return QVariant(dialog.markerParam().colorIndex + empty.markerParam().colorIndex);
+        },
+        -2);
+    row(
+        "pure ruler at the extremes",
+        []() {
+            MvPureTimelineRulerWidget ruler;
+            ruler.setFramerate({ 0, 0 });
+            ruler.setFramerate({ kMaxInt, -1 });
+            ruler.setTotalFrames(kMinFrame);
+            ruler.setTotalFrames(kMaxFrame);
+            handle(&ruler);
+            ruler.setCurrentFrame(kMaxFrame);
+            ruler.setCurrentFrame(kMinFrame);
+            for (double x : { std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
+                     -std::numeric_limits<double>::infinity(), 1e300, -1e300 }) {
+                ruler.setCurrentFramePixel(x);
+                ruler.pixelToFrame(x);
+            }
+            ruler.frameToPixel(kMaxFrame);
+            ruler.frameToPixel(kMinFrame);
+            ruler.setTotalFrames(900);
+            ruler.setFramerate({ 30, 1 });
+            const bool inside = ruler.currentFrame() >= 0 && ruler.currentFrame() <= ruler.totalFrames();
+            const bool visible = ruler.visibleStartFrame() >= 0 && ruler.visibleEndFrame() >= ruler.visibleStartFrame();
+            return QVariant(inside && visible);
+        },
+        true);
+}
+
+void tst_MvBadInput::widgetsTakeExtremes()
+{
+    QFETCH(WidgetCall, call);
+    QFETCH(QVariant, result);
+
+    MvLogCapture log;
+    QCOMPARE(call(), result);
+}
+
+QTEST_MAIN(tst_MvBadInput)
+#include "tst_MvBadInput.moc"
