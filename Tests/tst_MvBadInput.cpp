@@ -315,6 +315,24 @@ void tst_MvBadInput::addCommandRows()
         },
         false);
     row(
+        "player, panel and view requests at the extremes", nothing,
+        [](P& p) {
+            MvTimelinePresenter& t = p.presenter;
+            t.pauseMediaPlayer();
+            t.pauseMediaPlayerWithSync();
+            t.hidePropertyPanel();
+            t.showPropertyPanel(kMinInt);
+            t.showToast(QString());
+            t.setModeType(MvTimelinePresenter::MvTimelineModeType(kMaxInt));
+            t.setZoomSlider(nullptr);
+            t.updateAction();
+            t.removeAllMarker();
+            t.fitTimeline();
+            t.config()->clearFixedTrack();
+            return done(t.isMediaPlayerPlaying() || t.deleteEmptyClipItem(false));
+        },
+        false);
+    row(
         "detached sound for no clip", nothing,
         [](P& p) {
             struct Host : MvTimelinePresenter
@@ -406,6 +424,20 @@ void tst_MvBadInput::addKeyFrameAndViewRows()
             return QVariant(p.playhead.splitButtonY());
         },
         kMaxInt);
+    row(
+        "playhead presenter over a view of no size", nothing,
+        [](P& p) {
+            p.playhead.updateViewRect(QRect(0, 0, -100, -100));
+            p.playhead.setPlayheadColor(MVWIDGETS::MvWidgetStyleStatus(kMinInt), QColor());
+            p.playhead.addSplitButtonImage(MVWIDGETS::MvWidgetStyleStatus(kMaxInt), QImage());
+            p.playhead.setSplitButtonStatus(MVWIDGETS::MvWidgetStyleStatus(kMaxInt));
+            p.playhead.setSplitButtonY(p.playhead.splitButtonY());
+            const MvRange<int> range = p.playhead.maxRange();
+            return done(range.first == 0 && p.playhead.currentPlayheadPixmap().isNull()
+                && p.playhead.currentSplitButtonImage().isNull() && !p.playhead.currentPlayheadColor().isValid()
+                && !p.playhead.currentShape().isEmpty() && p.playhead.playheadRect().isValid());
+        },
+        true);
     row(
         "ruler presenter at the extremes", nothing,
         [](P& p) {
@@ -703,10 +735,18 @@ void tst_MvBadInput::widgetsTakeExtremes_data()
                 using MvMarkerPresenter::MvMarkerPresenter;
                 QList<MarkerItem> markerList() override { return { { kMinInt, kMaxInt }, { kMaxInt, kMinInt } }; }
             } markers(nullptr, nullptr);
+            const bool none = markers.normalMarkerImage(kMinInt).isNull() && markers.horverMarkerImage(kMaxInt).isNull()
+                && markers.pressMarkerImage(-1).isNull() && MvMarkerPresenter::markerPaletteIndex(QColor()) == -1;
+            QImage image(11, 14, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::red);
+            markers.addMarkerImage(0, image, image, image);
             MvMarkerWidget widget(&markers, nullptr);
-            widget.grab();
-            return QVariant(markers.normalMarkerImage(kMinInt).isNull() && markers.horverMarkerImage(kMaxInt).isNull()
-                && markers.pressMarkerImage(-1).isNull() && MvMarkerPresenter::markerPaletteIndex(QColor()) == -1);
+            widget.resize(400, 14);
+            widget.grab(); // markers at both ends of the int range, each drawn with the image of colour 0
+            const QRect farLeft = MvMarkerWidget::markerRect(kMinInt);
+            const QRect farRight = MvMarkerWidget::markerRect(kMaxInt);
+            return QVariant(none && farLeft.width() == 11 && farRight.width() == 11 && farRight.left() > kMaxInt - 20
+                && farLeft.left() == kMinInt);
         },
         true);
     row(

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include <limits>
+
 namespace {
 constexpr int kMarkerWidth = 11;
 constexpr int kMarkerHeight = 14;
@@ -52,7 +54,10 @@ QList<MvMarkerPresenter::MarkerItem> MvMarkerWidget::markers() const
 
 QRect MvMarkerWidget::markerRect(int x)
 {
-    return QRect(x - kMarkerWidth / 2, -1, kMarkerWidth, kMarkerHeight);
+    // A marker far off the strip, at an end of the int range, keeps its size instead of overflowing.
+    const int left = int(qBound<qint64>(
+        std::numeric_limits<int>::min(), qint64(x) - kMarkerWidth / 2, std::numeric_limits<int>::max() - kMarkerWidth));
+    return QRect(left, -1, kMarkerWidth, kMarkerHeight);
 }
 
 void MvMarkerWidget::slotMarkerCountChanged()
