@@ -1,29 +1,18 @@
 #include "IMvClipItems.h"
-#include "IMvKeyFrameSelector.h"
-#include "IMvSelection.h"
 #include "IMvTimelinePlayhead.h"
+#include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
-#include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryMarker.h"
-#include "Memory/MvMemoryTimeline.h"
-#include "Memory/MvMemoryUndoService.h"
-#include "Memory/MvSampleProject.h"
 #include "MvEditFixture.h"
-#include "MvKeyFramePresenter.h"
+#include "MvHostFixtures.h"
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerPresenter.h"
 #include "MvMarkerWidget.h"
 #include "MvPureTimelineRulerWidget.h"
-#include "MvRecordingScene.h"
-#include "MvRulerModel.h"
-#include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePlayheadWidget.h"
-#include "MvTimelinePresenter.h"
 #include "MvTimelineRenderWidget.h"
-#include "MvTimelineRulerPresenter.h"
 #include "MvTimelineRulerWidget.h"
-#include "MvTimelineVirtualPlayheadPresenter.h"
 
 #include <QMouseEvent>
 #include <QtTest>
@@ -39,117 +28,59 @@
 
 using namespace MVVBLMODEL;
 
+using Prepare = std::function<void(MvSampleHost&)>;
+using Call = std::function<QVariant(MvSampleHost&)>;
+using OrphanCall = std::function<QVariant(MvOrphanHost&)>;
+using WidgetCall = std::function<QVariant()>;
+Q_DECLARE_METATYPE(Prepare)
+Q_DECLARE_METATYPE(Call)
+Q_DECLARE_METATYPE(OrphanCall)
+Q_DECLARE_METATYPE(WidgetCall)
+
 namespace {
 constexpr qint64 kMaxFrame = std::numeric_limits<qint64>::max();
 constexpr qint64 kMinFrame = std::numeric_limits<qint64>::min();
 constexpr int kMaxInt = std::numeric_limits<int>::max();
 constexpr int kMinInt = std::numeric_limits<int>::min();
 
-// The sample project with every presenter a host makes over it. Clip numbers are those of the
-// model dump: c0 "Harbour at dawn" (0..599, grouped with its sound c1), c3 the still with a freeze
-// frame, c5 the screen recording with smart-keying nodes, c12 "Waves" (1500..1559, audio).
-struct Project
-{
-    Project()
-    {
-        MvSampleProject::build(timeline);
-        timeline.addChangeListener([]() {});
-        presenter.setScene(&scene);
-        presenter.initVirtualPlayheadPresenter();
-        playhead.setScene(&scene);
-        foreignTimeline.addTrack(TrackType_Picture);
-        foreign = foreignTimeline.addClip(0, ClipType_Video, 0, 99, QStringLiteral("elsewhere"));
-        // A clip that was on the timeline and is no more.
-        removed = timeline.liveClips().at(9);
-        timeline.deleteClips({ removed });
-        timeline.undoService()->clear();
-    }
+const Prepare nothing = [](MvSampleHost&) {};
+const Prepare selectOpening = [](MvSampleHost& p) { p.select({ p.clip(0) }); };
+const QVariant kNoResult; // a void command
 
-    MvMemoryClip* clip(int number) const { return timeline.allClips().at(number); }
-    void select(const QList<IMvClip*>& clips) { timeline.selection()->select(clips); }
-    MvKeyFramePresenter& keyFrames() { return *presenter.keyFramePresenter(); }
-    MvTimelineVirtualPlayheadPresenter& virtualPlayhead() { return *presenter.virtualPlayheadPresenter(); }
-    QString snapshot() const
-    {
-        const IMvKeyFrameSelector::MvSelectData keys = timeline.keyFrameSelector()->currentSelection();
-        int subItem = -1;
-        timeline.subItemSelection()->selectedId(subItem);
-        return QStringLiteral("undo %1 redo %2 keys %3:%4 sub-item %5\n")
-                   .arg(timeline.undoService()->undoCount())
-                   .arg(timeline.undoService()->redoCount())
-                   .arg(numberOf(keys.clip))
-                   .arg(keys.frames.size())
-                   .arg(subItem)
-            + timeline.stateText();
-    }
-    static QString numberOf(const IMvClip* clip)
-    {
-        const auto* own = dynamic_cast<const MvMemoryClip*>(clip);
-        return own ? QString::number(own->number()) : QStringLiteral("-");
-    }
-
-    MvMemoryTimeline timeline;
-    MvMemoryTimeline foreignTimeline;
-    MvMemoryClip* foreign = nullptr;
-    MvMemoryClip* removed = nullptr;
-    MvRecordingScene scene;
-    MvLogCapture log;
-    MvTimelinePresenter presenter { nullptr, &timeline };
-    MvTimelinePlayheadPresenter playhead { &presenter, nullptr };
-    MvTimelineRulerPresenter ruler { &presenter, nullptr };
-};
-
-using Prepare = std::function<void(Project&)>;
-using Call = std::function<QVariant(Project&)>;
-}
-
-Q_DECLARE_METATYPE(Prepare)
-Q_DECLARE_METATYPE(Call)
-
-class tst_MvBadInput : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void commandsRefuseAndChangeNothing_data();
-    void commandsRefuseAndChangeNothing();
-    void withoutATimelineNothingHappens_data();
-    void withoutATimelineNothingHappens();
-    void widgetsTakeExtremes_data();
-    void widgetsTakeExtremes();
-
-private:
-    void addCommandRows();
-    void addKeyFrameAndViewRows();
-};
-
-namespace {
-const Prepare nothing = [](Project&) {};
-const Prepare selectOpening = [](Project& p) { p.select({ p.clip(0) }); };
 QVariant done(bool value)
 {
     return QVariant(value);
 }
-const QVariant kNoResult; // a void command
+
+// A row of each table: the refusal's log record is "text|level|function", empty when none is due.
+void row(const char* name, const Prepare& prepare, const Call& call, const QVariant& result,
+    const QString& record = QString())
+{
+    QTest::newRow(name) << prepare << call << result << record;
 }
 
-void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
+void row(const char* name, const OrphanCall& call, const QVariant& result, const QString& record = QString())
 {
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<QVariant>("result");
-    // The refusal's log record: "text|level|function", empty when none is due.
-    QTest::addColumn<QString>("record");
-    addCommandRows();
-    addKeyFrameAndViewRows();
+    QTest::newRow(name) << call << result << record;
 }
 
-void tst_MvBadInput::addCommandRows()
+void row(const char* name, const WidgetCall& call, const QVariant& result)
 {
-    const auto row
-        = [](const char* name, const Prepare& prepare, const Call& call, const QVariant& result,
-              const QString& record = QString()) { QTest::newRow(name) << prepare << call << result << record; };
-    using P = Project;
+    QTest::newRow(name) << call << result;
+}
+
+QString checkRecord(const MvLogCapture& log, const QString& record)
+{
+    if (record.isEmpty())
+        return QString();
+    const QStringList parts = record.split(QLatin1Char('|'));
+    return mvCheckRecord(log, parts.at(0), parts.at(1).toInt(), parts.at(2));
+}
+
+// Splits and the regrouping around them.
+void addSplitRows()
+{
+    using P = MvSampleHost;
     row(
         "split at the last 64-bit frame", nothing,
         [](P& p) { return done(p.presenter.splitClips(kMaxFrame, true, true)); }, false);
@@ -183,6 +114,12 @@ void tst_MvBadInput::addCommandRows()
     row(
         "regroup with no pieces", nothing, [](P& p) { return done(p.presenter.groupAfterSplit({ nullptr }, {})); },
         true);
+}
+
+// Trims, deletes and moves.
+void addTrimDeleteAndMoveRows()
+{
+    using P = MvSampleHost;
     row(
         "trim start with nothing selected", nothing, [](P& p) { return done(p.presenter.trimStartToPlayhead()); },
         false);
@@ -240,6 +177,12 @@ void tst_MvBadInput::addCommandRows()
             return QVariant(p.timeline.trackAt(0)->height());
         },
         60);
+}
+
+// Markers, rotation, freeze frames, smart-keying nodes.
+void addItemRows()
+{
+    using P = MvSampleHost;
     row(
         "marker where the timeline has one", [](P& p) { p.timeline.playhead()->setCurrentFrame(300); },
         [](P& p) {
@@ -297,6 +240,12 @@ void tst_MvBadInput::addCommandRows()
             return done(p.presenter.getFirstSelectedClip() == nullptr);
         },
         true);
+}
+
+// Player, panel and view requests.
+void addRequestRows()
+{
+    using P = MvSampleHost;
     row(
         "seek to the extremes", nothing,
         [](P& p) {
@@ -345,12 +294,10 @@ void tst_MvBadInput::addCommandRows()
         -1);
 }
 
-void tst_MvBadInput::addKeyFrameAndViewRows()
+// Keyframes.
+void addKeyFrameRows()
 {
-    const auto row = [](const char* name, const Prepare& prepare, const Call& call, const QVariant& result) {
-        QTest::newRow(name) << prepare << call << result << QString();
-    };
-    using P = Project;
+    using P = MvSampleHost;
     row(
         "keyframe on no clip", nothing,
         [](P& p) {
@@ -401,6 +348,12 @@ void tst_MvBadInput::addKeyFrameAndViewRows()
                 || p.keyFrames().isKeyFrameItemEnabled(nullptr));
         },
         false);
+}
+
+// The virtual playhead, playhead and ruler presenters.
+void addPresenterRows()
+{
+    using P = MvSampleHost;
     row(
         "virtual playhead at the extremes", nothing,
         [](P& p) {
@@ -454,58 +407,10 @@ void tst_MvBadInput::addKeyFrameAndViewRows()
         true);
 }
 
-void tst_MvBadInput::commandsRefuseAndChangeNothing()
+// The timeline presenter's commands and questions.
+void addOrphanCommandRows()
 {
-    QFETCH(Prepare, prepare);
-    QFETCH(Call, call);
-    QFETCH(QVariant, result);
-    QFETCH(QString, record);
-
-    Project project;
-    prepare(project);
-    project.log.clear();
-    const QString before = project.snapshot();
-    QCOMPARE(call(project), result);
-    QCOMPARE(mvStateDiff(project.snapshot(), before), QString());
-    QCOMPARE(project.timeline.checkInvariants(), QString());
-    if (!record.isEmpty()) {
-        const QStringList parts = record.split(QLatin1Char('|'));
-        QCOMPARE(mvCheckRecord(project.log, parts.at(0), parts.at(1).toInt(), parts.at(2)), QString());
-    }
-}
-
-namespace {
-// Presenters over no timeline at all, and presenters over no timeline presenter.
-struct Orphans
-{
-    Orphans()
-    {
-        presenter.setScene(&scene);
-        presenter.initVirtualPlayheadPresenter();
-    }
-    MvRecordingScene scene;
-    MvLogCapture log;
-    MvTimelinePresenter presenter { nullptr, nullptr };
-    MvTimelinePlayheadPresenter playhead { &presenter, nullptr };
-    MvTimelinePlayheadPresenter lonePlayhead { nullptr, nullptr };
-    MvTimelineRulerPresenter ruler { &presenter, nullptr };
-    MvTimelineRulerPresenter loneRuler { nullptr, nullptr };
-};
-
-using OrphanCall = std::function<QVariant(Orphans&)>;
-}
-
-Q_DECLARE_METATYPE(OrphanCall)
-
-void tst_MvBadInput::withoutATimelineNothingHappens_data()
-{
-    QTest::addColumn<OrphanCall>("call");
-    QTest::addColumn<QVariant>("result");
-    QTest::addColumn<QString>("record");
-    using O = Orphans;
-    const auto row = [](const char* name, const OrphanCall& call, const QVariant& result,
-                         const QString& record = QString()) { QTest::newRow(name) << call << result << record; };
-
+    using O = MvOrphanHost;
     row(
         "clip editing",
         [](O& o) {
@@ -549,6 +454,12 @@ void tst_MvBadInput::withoutATimelineNothingHappens_data()
             return kNoResult;
         },
         kNoResult, QStringLiteral("playhead is null|16|MvTimelinePresenterPrivate::editMarker"));
+}
+
+// Keyframes, the virtual playhead and the playhead presenters.
+void addOrphanKeyFrameAndPlayheadRows()
+{
+    using O = MvOrphanHost;
     row(
         "keyframes",
         [](O& o) {
@@ -594,6 +505,12 @@ void tst_MvBadInput::withoutATimelineNothingHappens_data()
             return done(true);
         },
         true);
+}
+
+// Ruler presenters and time codes.
+void addOrphanRulerRows()
+{
+    using O = MvOrphanHost;
     row(
         "ruler presenters",
         [](O& o) {
@@ -626,23 +543,6 @@ void tst_MvBadInput::withoutATimelineNothingHappens_data()
         QString());
 }
 
-void tst_MvBadInput::withoutATimelineNothingHappens()
-{
-    QFETCH(OrphanCall, call);
-    QFETCH(QVariant, result);
-    QFETCH(QString, record);
-
-    Orphans orphans;
-    QCOMPARE(call(orphans), result);
-    if (!record.isEmpty()) {
-        const QStringList parts = record.split(QLatin1Char('|'));
-        QCOMPARE(mvCheckRecord(orphans.log, parts.at(0), parts.at(1).toInt(), parts.at(2)), QString());
-    }
-}
-
-namespace {
-using WidgetCall = std::function<QVariant()>;
-
 void mouse(QWidget* widget, QEvent::Type type, const QPoint& pos, Qt::MouseButton button)
 {
     QMouseEvent event(type, pos, widget->mapToGlobal(pos), button,
@@ -672,18 +572,10 @@ void handle(QWidget* widget)
     wheel(widget, kMinInt);
     widget->grab();
 }
-}
 
-Q_DECLARE_METATYPE(WidgetCall)
-
-void tst_MvBadInput::widgetsTakeExtremes_data()
+// Widgets without their presenter or timeline.
+void addLoneWidgetRows()
 {
-    QTest::addColumn<WidgetCall>("call");
-    QTest::addColumn<QVariant>("result");
-    const auto row = [](const char* name, const WidgetCall& call, const QVariant& result) {
-        QTest::newRow(name) << call << result;
-    };
-
     row(
         "ruler widget without a presenter",
         []() {
@@ -727,6 +619,11 @@ void tst_MvBadInput::widgetsTakeExtremes_data()
             return QVariant(strip.finishedColor().isValid());
         },
         false);
+}
+
+// Marker strip and marker dialog.
+void addMarkerWidgetRows()
+{
     row(
         "marker images out of range",
         []() {
@@ -762,6 +659,11 @@ void tst_MvBadInput::widgetsTakeExtremes_data()
             return QVariant(dialog.markerParam().colorIndex + empty.markerParam().colorIndex);
         },
         -2);
+}
+
+// The pure ruler.
+void addPureRulerRows()
+{
     row(
         "pure ruler at the extremes",
         []() {
@@ -789,12 +691,88 @@ void tst_MvBadInput::widgetsTakeExtremes_data()
         true);
 }
 
+}
+
+class tst_MvBadInput : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commandsRefuseAndChangeNothing_data();
+    void commandsRefuseAndChangeNothing();
+    void withoutATimelineNothingHappens_data();
+    void withoutATimelineNothingHappens();
+    void widgetsTakeExtremes_data();
+    void widgetsTakeExtremes();
+};
+
+void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QVariant>("result");
+    QTest::addColumn<QString>("record");
+    addSplitRows();
+    addTrimDeleteAndMoveRows();
+    addItemRows();
+    addRequestRows();
+    addKeyFrameRows();
+    addPresenterRows();
+}
+
+void tst_MvBadInput::commandsRefuseAndChangeNothing()
+{
+    QFETCH(Prepare, prepare);
+    QFETCH(Call, call);
+    QFETCH(QVariant, result);
+    QFETCH(QString, record);
+
+    MvSampleHost host;
+    prepare(host);
+    host.log.clear();
+    const QString before = host.snapshot();
+    QCOMPARE(call(host), result);
+    QCOMPARE(mvStateDiff(host.snapshot(), before), QString());
+    QCOMPARE(host.timeline.checkInvariants(), QString());
+    QCOMPARE(checkRecord(host.log, record), QString());
+}
+
+void tst_MvBadInput::withoutATimelineNothingHappens_data()
+{
+    QTest::addColumn<OrphanCall>("call");
+    QTest::addColumn<QVariant>("result");
+    QTest::addColumn<QString>("record");
+    addOrphanCommandRows();
+    addOrphanKeyFrameAndPlayheadRows();
+    addOrphanRulerRows();
+}
+
+void tst_MvBadInput::withoutATimelineNothingHappens()
+{
+    QFETCH(OrphanCall, call);
+    QFETCH(QVariant, result);
+    QFETCH(QString, record);
+
+    MvOrphanHost orphans;
+    QCOMPARE(call(orphans), result);
+    QCOMPARE(checkRecord(orphans.log, record), QString());
+}
+
+void tst_MvBadInput::widgetsTakeExtremes_data()
+{
+    QTest::addColumn<WidgetCall>("call");
+    QTest::addColumn<QVariant>("result");
+    addLoneWidgetRows();
+    addMarkerWidgetRows();
+    addPureRulerRows();
+}
+
 void tst_MvBadInput::widgetsTakeExtremes()
 {
     QFETCH(WidgetCall, call);
     QFETCH(QVariant, result);
 
-    MvLogCapture log;
+    MvLogCapture log; // quiet
     QCOMPARE(call(), result);
 }
 

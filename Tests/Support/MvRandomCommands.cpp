@@ -196,18 +196,32 @@ QString lockTrack(MvRandomWorld& world)
     track->setLocked(lock);
     return QStringLiteral("%1 track %2").arg(lock ? QStringLiteral("lock") : QStringLiteral("unlock")).arg(row);
 }
+
+using W = MvRandomWorld;
+
+// A command on the selection that answers true or false: "name() on {selection} -> result".
+MvRandomCommand onSelection(const char* name, int weight, bool (*run)(W&))
+{
+    return { QLatin1String(name), weight, [name, run](W& w) -> QString {
+                const QString what = call(w, name);
+                return what + result(run(w));
+            } };
 }
 
-// Every command of the random run. To add a command family: one entry per command, here, in a
-// block with the family's name (the name, how often it is picked, and a function that runs it with
-// arguments drawn from the world and says what it did). The run, its checks, the shrinking and the
-// replay need nothing else. A command that asks the host a new question also gets its answer in
-// MvRandomWorld.cpp's table of answers.
-const QVector<MvRandomCommand>& mvRandomCommands()
+// The same for a command without a result.
+MvRandomCommand onSelectionVoid(const char* name, int weight, void (*run)(W&))
 {
-    using W = MvRandomWorld;
-    static const QVector<MvRandomCommand> table {
-        // The user's focus: selections and the playhead (view state, no undo).
+    return { QLatin1String(name), weight, [name, run](W& w) -> QString {
+                const QString what = call(w, name);
+                run(w);
+                return what;
+            } };
+}
+
+// The user's focus: selections and the playhead (view state, no undo).
+QVector<MvRandomCommand> focusCommands()
+{
+    return {
         { QStringLiteral("select clips"), 14,
             [](W& w) -> QString {
                 const QList<IMvClip*> clips = w.clips();
@@ -241,6 +255,13 @@ const QVector<MvRandomCommand>& mvRandomCommands()
         { QStringLiteral("select keyframes"), 4, selectKeyFrames },
         { QStringLiteral("select freeze frame"), 2, selectFreezeFrame },
         { QStringLiteral("select smart-keying node"), 2, selectSmartKeyingNode },
+    };
+}
+
+// Where the user looks: the playhead, the ruler, the host's switches.
+QVector<MvRandomCommand> viewCommands()
+{
+    return {
         { QStringLiteral("move playhead"), 16,
             [](W& w) -> QString {
                 const qint64 frame = w.frame();
@@ -259,8 +280,30 @@ const QVector<MvRandomCommand>& mvRandomCommands()
                 w.rulerPresenter().zoom(delta);
                 return QStringLiteral("ruler: zoom %1").arg(delta);
             } },
+        onSelectionVoid(
+            "checkAndMoveToSelectedClipStartPos", 1, [](W& w) { w.presenter().checkAndMoveToSelectedClipStartPos(); }),
+        onSelectionVoid("fitTimeline", 1, [](W& w) { w.presenter().fitTimeline(); }),
+        { QStringLiteral("setActionEnabled"), 1,
+            [](W& w) -> QString {
+                const bool enabled = w.chance(70);
+                w.presenter().setActionEnabled(enabled);
+                return QStringLiteral("setActionEnabled(%1)").arg(flag(enabled));
+            } },
+        { QStringLiteral("adjustTrackHeight"), 1,
+            [](W& w) -> QString {
+                const int row = w.below(w.timeline().trackCount() + 2) - 1;
+                const int policy = w.below(4);
+                w.presenter().adjustTrackHeight(row, policy);
+                return QStringLiteral("adjustTrackHeight(%1, %2)").arg(row).arg(policy);
+            } },
+        { QStringLiteral("lock track"), 2, lockTrack },
+    };
+}
 
-        // Clip editing.
+// Clip editing: split, trim, delete.
+QVector<MvRandomCommand> clipEditCommands()
+{
+    return {
         { QStringLiteral("splitClips"), 6,
             [](W& w) -> QString {
                 const qint64 frame = w.chance(40) ? 0 : w.frame();
@@ -275,32 +318,32 @@ const QVector<MvRandomCommand>& mvRandomCommands()
         { QStringLiteral("splitClips(clips)"), 6, splitGivenClips },
         { QStringLiteral("ungroupBeforeSplit"), 1, ungroupBeforeSplit },
         { QStringLiteral("groupAfterSplit"), 1, groupAfterSplit, MvRandomCommand::SeveralSteps },
-        { QStringLiteral("trimStartToPlayhead"), 4,
-            [](W& w) -> QString {
-                const QString what = call(w, "trimStartToPlayhead");
-                return what + result(w.presenter().trimStartToPlayhead());
-            } },
-        { QStringLiteral("trimEndToPlayhead"), 4,
-            [](W& w) -> QString {
-                const QString what = call(w, "trimEndToPlayhead");
-                return what + result(w.presenter().trimEndToPlayhead());
-            } },
-        { QStringLiteral("deleteSelectedClips"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "deleteSelectedClips");
-                return what + result(w.presenter().deleteSelectedClips());
-            } },
-        { QStringLiteral("rippleDeleteSelectedClips"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "rippleDeleteSelectedClips");
-                return what + result(w.presenter().rippleDeleteSelectedClips());
-            } },
+        onSelection("trimStartToPlayhead", 4, [](W& w) { return w.presenter().trimStartToPlayhead(); }),
+        onSelection("trimEndToPlayhead", 4, [](W& w) { return w.presenter().trimEndToPlayhead(); }),
+        onSelection("deleteSelectedClips", 3, [](W& w) { return w.presenter().deleteSelectedClips(); }),
+        onSelection("rippleDeleteSelectedClips", 3, [](W& w) { return w.presenter().rippleDeleteSelectedClips(); }),
         { QStringLiteral("deleteItems"), 4,
             [](W& w) -> QString {
                 const bool arg = w.chance(50);
                 const QString what = call(w, "deleteItems", flag(arg));
                 return what + result(w.presenter().deleteItems(arg));
             } },
+        { QStringLiteral("empty-clip placeholder"), 1,
+            [](W& w) -> QString {
+                if (w.chance(50)) {
+                    w.presenter().hideEmptyClip();
+                    return QStringLiteral("hideEmptyClip()");
+                }
+                w.presenter().showEmptyClip(w.below(500), 0, 1 + w.below(80), 40);
+                return QStringLiteral("showEmptyClip()");
+            } },
+    };
+}
+
+// Moves across time and rows.
+QVector<MvRandomCommand> moveCommands()
+{
+    return {
         { QStringLiteral("moveClipsHorizontal"), 8,
             [](W& w) -> QString {
                 const qint64 offset = w.frameOffset();
@@ -313,42 +356,13 @@ const QVector<MvRandomCommand>& mvRandomCommands()
                 const QString what = call(w, "moveClipsVertical", QString::number(offset));
                 return what + result(w.presenter().moveClipsVertical(offset));
             } },
-        { QStringLiteral("checkAndMoveToSelectedClipStartPos"), 1,
-            [](W& w) -> QString {
-                const QString what = call(w, "checkAndMoveToSelectedClipStartPos");
-                w.presenter().checkAndMoveToSelectedClipStartPos();
-                return what;
-            } },
-        { QStringLiteral("fitTimeline"), 1,
-            [](W& w) -> QString {
-                w.presenter().fitTimeline();
-                return QStringLiteral("fitTimeline()");
-            } },
-        { QStringLiteral("setActionEnabled"), 1,
-            [](W& w) -> QString {
-                const bool enabled = w.chance(70);
-                w.presenter().setActionEnabled(enabled);
-                return QStringLiteral("setActionEnabled(%1)").arg(flag(enabled));
-            } },
-        { QStringLiteral("empty-clip placeholder"), 1,
-            [](W& w) -> QString {
-                if (w.chance(50)) {
-                    w.presenter().hideEmptyClip();
-                    return QStringLiteral("hideEmptyClip()");
-                }
-                w.presenter().showEmptyClip(w.below(500), 0, 1 + w.below(80), 40);
-                return QStringLiteral("showEmptyClip()");
-            } },
-        { QStringLiteral("adjustTrackHeight"), 1,
-            [](W& w) -> QString {
-                const int row = w.below(w.timeline().trackCount() + 2) - 1;
-                const int policy = w.below(4);
-                w.presenter().adjustTrackHeight(row, policy);
-                return QStringLiteral("adjustTrackHeight(%1, %2)").arg(row).arg(policy);
-            } },
-        { QStringLiteral("lock track"), 2, lockTrack },
+    };
+}
 
-        // Items that are not whole clips.
+// Items that are not whole clips: markers, rotation, freeze frames, smart-keying nodes.
+QVector<MvRandomCommand> itemCommands()
+{
+    return {
         { QStringLiteral("addMarker"), 4,
             [](W& w) -> QString {
                 const QList<QColor> palette = MvMarkerPresenter::markerPalette();
@@ -358,35 +372,20 @@ const QVector<MvRandomCommand>& mvRandomCommands()
                 w.presenter().addMarker(color);
                 return what;
             } },
-        { QStringLiteral("removeSelectedMarker"), 2,
-            [](W& w) -> QString {
-                return QStringLiteral("removeSelectedMarker()") + result(w.presenter().removeSelectedMarker());
-            } },
+        onSelection("removeSelectedMarker", 2, [](W& w) { return w.presenter().removeSelectedMarker(); }),
         { QStringLiteral("editMarker"), 2, editMarker },
-        { QStringLiteral("rotate90CW"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "rotate90CW");
-                w.presenter().rotate90CW();
-                return what;
-            } },
-        { QStringLiteral("rotate90CCW"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "rotate90CCW");
-                w.presenter().rotate90CCW();
-                return what;
-            } },
-        { QStringLiteral("removeSelectedFreezeFrame"), 2,
-            [](W& w) -> QString {
-                const QString what = call(w, "removeSelectedFreezeFrame");
-                return what + result(w.presenter().removeSelectedFreezeFrame());
-            } },
-        { QStringLiteral("removeSelectedSmartKeyingNode"), 2,
-            [](W& w) -> QString {
-                const QString what = call(w, "removeSelectedSmartKeyingNode");
-                return what + result(w.presenter().removeSelectedSmartKeyingNode());
-            } },
+        onSelectionVoid("rotate90CW", 3, [](W& w) { w.presenter().rotate90CW(); }),
+        onSelectionVoid("rotate90CCW", 3, [](W& w) { w.presenter().rotate90CCW(); }),
+        onSelection("removeSelectedFreezeFrame", 2, [](W& w) { return w.presenter().removeSelectedFreezeFrame(); }),
+        onSelection(
+            "removeSelectedSmartKeyingNode", 2, [](W& w) { return w.presenter().removeSelectedSmartKeyingNode(); }),
+    };
+}
 
-        // Keyframes.
+// Keyframes (the timeline presenter's keyframe presenter).
+QVector<MvRandomCommand> keyFrameCommands()
+{
+    return {
         { QStringLiteral("addAudioDefaultKeyFrame"), 3,
             [](W& w) -> QString {
                 IMvClip* clip = w.focusedClip();
@@ -401,75 +400,26 @@ const QVector<MvRandomCommand>& mvRandomCommands()
                 return QStringLiteral("addVideoDefaultKeyFrame(%1, %2)").arg(W::nameOf(clip)).arg(frame)
                     + result(w.keyFrames().addVideoDefaultKeyFrame(clip, frame));
             } },
-        { QStringLiteral("addKeyFrame_ShortcutKey"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "addKeyFrame_ShortcutKey");
-                return what + result(w.keyFrames().addKeyFrame_ShortcutKey());
-            } },
-        { QStringLiteral("copySelectedKeyFrames"), 2,
-            [](W& w) -> QString {
-                return QStringLiteral("copySelectedKeyFrames()") + result(w.keyFrames().copySelectedKeyFrames());
-            } },
-        { QStringLiteral("pasteKeyFrames"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "pasteKeyFrames") + QStringLiteral(" at ")
-                    + frameText(w.timeline().playhead()->currentFrame());
-                return what + result(w.keyFrames().pasteKeyFrames());
-            } },
-        { QStringLiteral("removeSelectedKeyFrame"), 3,
-            [](W& w) -> QString {
-                const QString what = call(w, "removeSelectedKeyFrame");
-                return what + result(w.keyFrames().removeSelectedKeyFrame());
-            } },
-        { QStringLiteral("clearAllAudioKeyFrames"), 1,
-            [](W& w) -> QString {
-                const QString what = call(w, "clearAllAudioKeyFrames");
-                return what + result(w.keyFrames().clearAllAudioKeyFrames());
-            } },
-        { QStringLiteral("clearAllVideoKeyFrames"), 1,
-            [](W& w) -> QString {
-                const QString what = call(w, "clearAllVideoKeyFrames");
-                return what + result(w.keyFrames().clearAllVideoKeyFrames());
-            } },
-        { QStringLiteral("selectedAllAudioKeyFrames"), 2,
-            [](W& w) -> QString {
-                const QString what = call(w, "selectedAllAudioKeyFrames");
-                return what + result(w.keyFrames().selectedAllAudioKeyFrames());
-            } },
-        { QStringLiteral("selectedAllVideoKeyFrames"), 2,
-            [](W& w) -> QString {
-                const QString what = call(w, "selectedAllVideoKeyFrames");
-                return what + result(w.keyFrames().selectedAllVideoKeyFrames());
-            } },
-        { QStringLiteral("moveToPrevKeyFrame"), 1,
-            [](W& w) -> QString {
-                const QString what = call(w, "moveToPrevKeyFrame");
-                w.keyFrames().moveToPrevKeyFrame();
-                return what;
-            } },
-        { QStringLiteral("moveToNextKeyFrame"), 1,
-            [](W& w) -> QString {
-                const QString what = call(w, "moveToNextKeyFrame");
-                w.keyFrames().moveToNextKeyFrame();
-                return what;
-            } },
+        onSelection("addKeyFrame_ShortcutKey", 3, [](W& w) { return w.keyFrames().addKeyFrame_ShortcutKey(); }),
+        onSelection("copySelectedKeyFrames", 2, [](W& w) { return w.keyFrames().copySelectedKeyFrames(); }),
+        onSelection("pasteKeyFrames", 3, [](W& w) { return w.keyFrames().pasteKeyFrames(); }),
+        onSelection("removeSelectedKeyFrame", 3, [](W& w) { return w.keyFrames().removeSelectedKeyFrame(); }),
+        onSelection("clearAllAudioKeyFrames", 1, [](W& w) { return w.keyFrames().clearAllAudioKeyFrames(); }),
+        onSelection("clearAllVideoKeyFrames", 1, [](W& w) { return w.keyFrames().clearAllVideoKeyFrames(); }),
+        onSelection("selectedAllAudioKeyFrames", 2, [](W& w) { return w.keyFrames().selectedAllAudioKeyFrames(); }),
+        onSelection("selectedAllVideoKeyFrames", 2, [](W& w) { return w.keyFrames().selectedAllVideoKeyFrames(); }),
+        onSelectionVoid("moveToPrevKeyFrame", 1, [](W& w) { w.keyFrames().moveToPrevKeyFrame(); }),
+        onSelectionVoid("moveToNextKeyFrame", 1, [](W& w) { w.keyFrames().moveToNextKeyFrame(); }),
+    };
+}
 
-        // The playhead's split button and the virtual playhead.
-        { QStringLiteral("split button"), 2,
-            [](W& w) -> QString {
-                w.playheadPresenter().splitClips();
-                return QStringLiteral("split button at ") + frameText(w.timeline().playhead()->currentFrame());
-            } },
-        { QStringLiteral("virtual playhead: open"), 2,
-            [](W& w) -> QString {
-                w.virtualPlayhead().open();
-                return QStringLiteral("virtual playhead: open");
-            } },
-        { QStringLiteral("virtual playhead: close"), 2,
-            [](W& w) -> QString {
-                w.virtualPlayhead().close();
-                return QStringLiteral("virtual playhead: close");
-            } },
+// The playhead's split button and the virtual playhead.
+QVector<MvRandomCommand> playheadCommands()
+{
+    return {
+        onSelectionVoid("split button", 2, [](W& w) { w.playheadPresenter().splitClips(); }),
+        onSelectionVoid("virtual playhead: open", 2, [](W& w) { w.virtualPlayhead().open(); }),
+        onSelectionVoid("virtual playhead: close", 2, [](W& w) { w.virtualPlayhead().close(); }),
         { QStringLiteral("virtual playhead: setVisible"), 1,
             [](W& w) -> QString {
                 const bool visible = w.chance(50);
@@ -495,8 +445,13 @@ const QVector<MvRandomCommand>& mvRandomCommands()
                 w.virtualPlayhead().updateEnable();
                 return QStringLiteral("virtual playhead allowed: %1, updateEnable()").arg(flag(allowed));
             } },
+    };
+}
 
-        // The host's undo and redo.
+// The host's undo and redo.
+QVector<MvRandomCommand> undoCommands()
+{
+    return {
         { QStringLiteral("undo"), 8,
             [](W& w) -> QString { return QStringLiteral("undo()") + result(w.timeline().undoRedoService()->undo()); },
             MvRandomCommand::UndoesOne },
@@ -504,6 +459,18 @@ const QVector<MvRandomCommand>& mvRandomCommands()
             [](W& w) -> QString { return QStringLiteral("redo()") + result(w.timeline().undoRedoService()->redo()); },
             MvRandomCommand::RedoesOne },
     };
+}
+}
+
+// Every command of the random run, family by family. To add a command: one entry in its family's
+// function above (its name, how often it is picked, and how it runs with arguments drawn from the
+// world, saying what it did; onSelection() makes the usual kind in one line). A new family is one
+// such function and one line here. The run, its checks, the shrinking and the replay need nothing
+// else; a command that asks the host a new question also gets its answer in MvRandomWorld.cpp.
+const QVector<MvRandomCommand>& mvRandomCommands()
+{
+    static const QVector<MvRandomCommand> table = focusCommands() + viewCommands() + clipEditCommands() + moveCommands()
+        + itemCommands() + keyFrameCommands() + playheadCommands() + undoCommands();
     return table;
 }
 
