@@ -43,7 +43,8 @@ public:
 };
 
 // Every object a host makes around one timeline, by the short names the orders use:
-// T timeline presenter, K its keyframe presenter, V its virtual playhead presenter, R ruler
+// T timeline presenter, K its keyframe presenter, V its virtual playhead presenter, HV a virtual
+// playhead presenter the host made over T (not a child of T), R ruler
 // presenter, P playhead presenter, M marker presenter, RW ruler widget, PW playhead widget, MW
 // marker widget, S render strip, PR pure ruler, D marker dialog, W the window the widgets may sit in.
 class Host
@@ -59,6 +60,9 @@ public:
         parts.insert(QStringLiteral("T"), presenter);
         parts.insert(QStringLiteral("K"), presenter->keyFramePresenter());
         parts.insert(QStringLiteral("V"), presenter->virtualPlayheadPresenter());
+        auto* hostVirtualPlayhead = new MvTimelineVirtualPlayheadPresenter(presenter, nullptr);
+        hostVirtualPlayhead->open();
+        parts.insert(QStringLiteral("HV"), hostVirtualPlayhead);
         QObject* presenterParent = presentersInTimeline ? presenter : nullptr;
         auto* ruler = new MvTimelineRulerPresenter(presenter, presenterParent);
         auto* playhead = new MvTimelinePlayheadPresenter(presenter, presenterParent);
@@ -85,7 +89,8 @@ public:
 
     ~Host()
     {
-        const QStringList widgetsFirst = QString::fromLatin1("D PR S MW PW RW W M P R V K T").split(QLatin1Char(' '));
+        const QStringList widgetsFirst
+            = QString::fromLatin1("D PR S MW PW RW W M P R HV V K T").split(QLatin1Char(' '));
         for (const QString& name : widgetsFirst)
             destroy(name);
     }
@@ -101,7 +106,7 @@ public:
     QString observersWrong()
     {
         const int rulers = int(alive("R")) + int(alive("P")) + int(alive("S"));
-        const int playheads = int(alive("R")) + int(alive("P")) + int(alive("V"));
+        const int playheads = int(alive("R")) + int(alive("P")) + int(alive("V")) + int(alive("HV"));
         const int renders = int(alive("S"));
         const int actualRulers = timeline.rulerImpl()->observerCount();
         const int actualPlayheads = timeline.playheadImpl()->observerCount();
@@ -159,10 +164,13 @@ public:
         }
         if (auto* ruler = part<MvTimelineRulerPresenter>("R"))
             ruler->updateTimelineMenu();
-        if (auto* virtualPlayhead = part<MvTimelineVirtualPlayheadPresenter>("V")) {
-            virtualPlayhead->setVisible(true);
-            virtualPlayhead->seek(45);
-            virtualPlayhead->playStateChanged(MVVBLMODEL::PlayState_Finished);
+        for (const char* name : { "V", "HV" }) {
+            if (auto* virtualPlayhead = part<MvTimelineVirtualPlayheadPresenter>(name)) {
+                virtualPlayhead->setVisible(true);
+                virtualPlayhead->seek(45);
+                virtualPlayhead->playStateChanged(MVVBLMODEL::PlayState_Finished);
+                virtualPlayhead->updateEnable();
+            }
         }
         if (auto* keyFrames = part<MvKeyFramePresenter>("K"))
             keyFrames->addKeyFrame_ShortcutKey();
@@ -210,9 +218,9 @@ private:
     }
 };
 
-const QStringList kAllParts { QStringLiteral("T"), QStringLiteral("K"), QStringLiteral("V"), QStringLiteral("R"),
-    QStringLiteral("P"), QStringLiteral("M"), QStringLiteral("RW"), QStringLiteral("PW"), QStringLiteral("MW"),
-    QStringLiteral("S"), QStringLiteral("PR"), QStringLiteral("D"), QStringLiteral("W") };
+const QStringList kAllParts { QStringLiteral("T"), QStringLiteral("K"), QStringLiteral("V"), QStringLiteral("HV"),
+    QStringLiteral("R"), QStringLiteral("P"), QStringLiteral("M"), QStringLiteral("RW"), QStringLiteral("PW"),
+    QStringLiteral("MW"), QStringLiteral("S"), QStringLiteral("PR"), QStringLiteral("D"), QStringLiteral("W") };
 }
 
 class tst_MvDestructionOrder : public QObject
@@ -238,7 +246,7 @@ void tst_MvDestructionOrder::anyOrderLeavesNothingBehind_data()
 
     QTest::newRow("widgets, then presenters, the timeline presenter last")
         << "D PR S MW PW RW W M P R V K T" << false << false;
-    QTest::newRow("the timeline presenter first") << "T R P M RW PW MW S PR D W" << false << false;
+    QTest::newRow("the timeline presenter first") << "T R P M RW PW MW S PR D W HV" << false << false;
     QTest::newRow("presenters before their widgets") << "R P M T RW PW MW S D PR W" << false << false;
     QTest::newRow("the timeline presenter's own presenters taken first")
         << "K V T R P M W RW PW MW S PR D" << false << false;
