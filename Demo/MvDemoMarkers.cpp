@@ -39,10 +39,18 @@ QList<MvMarkerPresenter::MarkerItem> MvDemoMarkerPresenter::markerList()
     IMvMarkerList* list = m_timeline->timelineMarkers();
     const QList<IMvMarker*> markers = list->markers();
     for (IMvMarker* marker : markers) {
-        const int x = m_timeline->ruler()->frameToPixel(list->mapToTimeline(marker->frame()));
+        const int x = m_originX + m_timeline->ruler()->frameToPixel(list->mapToTimeline(marker->frame()));
         items.append({ x, qMax(0, markerPaletteIndex(marker->color())) });
     }
     return items;
+}
+
+void MvDemoMarkerPresenter::setOriginX(int originX)
+{
+    if (originX == m_originX)
+        return;
+    m_originX = originX;
+    Q_EMIT signalMarkerCountChanged();
 }
 
 IMvMarker* MvDemoMarkerPresenter::markerAt(int index) const
