@@ -205,8 +205,7 @@ void MvDemoWindow::buildViewMenu()
         }));
     snap->setCheckable(true);
     snap->setChecked(trackArea()->snapping());
-    if (auto* dock = findChild<QDockWidget*>(QStringLiteral("journalDock")))
-        view->addAction(dock->toggleViewAction());
+    view->addAction(m_journalDock->toggleViewAction());
 }
 
 void MvDemoWindow::buildTrackActions()
@@ -234,7 +233,9 @@ void MvDemoWindow::refreshEditActions()
         if (QAction* a = m_actions.value(QString::fromLatin1(name)))
             a->setEnabled(on);
     };
-    enable("split", p->canSplitClip());
+    // The presenter's answer looks at every clip under the playhead, while the split itself cuts
+    // only the selected ones when there are any: the host asks about those too.
+    enable("split", p->canSplitClip() && refusals.reason(QStringLiteral("split")).isEmpty());
     enable("trim-start", p->canTrimToPlayhead());
     enable("trim-end", p->canTrimToPlayhead());
     enable("delete", p->canDeleteItems());

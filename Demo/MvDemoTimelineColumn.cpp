@@ -112,7 +112,7 @@ void MvDemoTimelineColumn::placeOverlay()
     m_overlay->setGeometry(area.left(), top, area.width(), area.bottom() + 1 - top);
     const int origin = m_ruler->mapTo(this, QPoint()).x() - area.left();
     m_overlay->setRulerSpan(origin, m_ruler->width());
-    m_trackArea->setOriginX(origin);
+    m_trackArea->setRulerSpan(origin, m_ruler->width());
     m_markerPresenter->setOriginX(m_ruler->mapTo(this, QPoint()).x() - m_markerStrip->x());
     m_overlay->raise();
 }

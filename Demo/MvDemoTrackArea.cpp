@@ -35,12 +35,18 @@ MvDemoTrackArea::~MvDemoTrackArea()
     m_timeline->playhead()->removeObserver(this);
 }
 
-void MvDemoTrackArea::setOriginX(int originX)
+void MvDemoTrackArea::setRulerSpan(int originX, int width)
 {
-    if (originX == m_mapping.originX())
+    if (originX == m_mapping.originX() && width == m_rulerWidth)
         return;
     m_mapping.setOriginX(originX);
+    m_rulerWidth = width;
     update();
+}
+
+QRect MvDemoTrackArea::rulerSpan() const
+{
+    return QRect(m_mapping.originX(), 0, m_rulerWidth > 0 ? m_rulerWidth : width() - m_mapping.originX(), height());
 }
 
 void MvDemoTrackArea::setScrollY(int scrollY)

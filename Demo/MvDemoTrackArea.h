@@ -42,7 +42,10 @@ public:
     // Overlays (the playhead) see the area's mouse events first through this manager.
     MvEventFilterManager* eventFilterMgr() const { return m_filters; }
     const MvDemoFrameMapping& mapping() const { return m_mapping; }
-    void setOriginX(int originX);
+    // Where the ruler's pixels lie in this area: clips are drawn over that span only, so that
+    // they line up with the ruler's ends.
+    void setRulerSpan(int originX, int width);
+    QRect rulerSpan() const;
 
     bool snapping() const { return m_snapping; }
     void setSnapping(bool snapping) { m_snapping = snapping; }
@@ -101,6 +104,7 @@ private:
     IMvTimeline* m_timeline;
     MvEventFilterManager* m_filters;
     MvDemoFrameMapping m_mapping;
+    int m_rulerWidth = 0;
     MvDemoClipDrag m_drag;
     bool m_snapping = true;
     int m_scrollY = 0;

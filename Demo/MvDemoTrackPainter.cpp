@@ -60,11 +60,14 @@ void MvDemoTrackPainter::rows()
         const QColor rowColor = track->type() == TrackType_Audio ? QColor(0x2B, 0x30, 0x2D) : QColor(0x2C, 0x2E, 0x35);
         m_painter.fillRect(
             QRect(0, top, m_area.width(), track->height()), track->isLocked() ? rowColor.darker(130) : rowColor);
+        m_painter.save();
+        m_painter.setClipRect(m_area.rulerSpan());
         const QList<IMvClip*> clips = track->clips();
         for (IMvClip* item : clips)
             clip(item, m_area.clipRect(item, i), selected.contains(item));
         for (IMvClip* item : clips)
             transitions(item, i, !selected.isEmpty());
+        m_painter.restore();
     }
 }
 
@@ -96,8 +99,9 @@ void MvDemoTrackPainter::clip(IMvClip* item, const QRect& rect, bool selected)
     m_painter.drawRect(rect.adjusted(0, 0, -1, -1));
     m_painter.setPen(Qt::white);
     QString label = item->name();
+    // In words: an arrow glyph is missing from many fonts.
     if (item->rotation() != 0)
-        label += QStringLiteral("  \u21bb%1\u00b0").arg(item->rotation());
+        label = QCoreApplication::translate("MvDemoTrackArea", "%1 (rotated %2\u00b0)").arg(label).arg(item->rotation());
     m_painter.drawText(rect.adjusted(6, 2, -4, -2), Qt::AlignLeft | Qt::AlignTop, label);
     keyFrames(item, rect);
     clipMarkers(item->clipMarkers(), rect);

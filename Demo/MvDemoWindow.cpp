@@ -40,6 +40,8 @@
 namespace {
 constexpr int kNoticeMs = 5000;
 constexpr int kSplitCommandId = 2001;
+const QSize kMinimumSize(720, 420);
+constexpr int kJournalHeight = 150;
 }
 
 MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
@@ -68,6 +70,9 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     m_timeline->addChangeListener([this] { modelChanged(); });
     setTrackSize(1);
     refreshActions();
+    // Explicit, and above what the layouts need: the timeline stays workable, and the layouts never
+    // have to push a minimum of their own onto the shown window.
+    setMinimumSize(kMinimumSize);
     resize(1280, 720);
     trackArea()->setFocus();
 }
@@ -129,11 +134,11 @@ void MvDemoWindow::buildJournal()
     m_journalView->setTabChangesFocus(true);
     // A small window gives the journal's height up before the tracks'.
     m_journalView->setMinimumHeight(40);
-    auto* dock = new QDockWidget(tr("Command journal"), this);
-    dock->setObjectName(QStringLiteral("journalDock"));
-    dock->setWidget(m_journalView);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    resizeDocks({ dock }, { 150 }, Qt::Vertical);
+    m_journalDock = new QDockWidget(tr("Command journal"), this);
+    m_journalDock->setObjectName(QStringLiteral("journalDock"));
+    m_journalDock->setWidget(m_journalView);
+    addDockWidget(Qt::BottomDockWidgetArea, m_journalDock);
+    resizeDocks({ m_journalDock }, { kJournalHeight }, Qt::Vertical);
     m_status = new QLabel(this);
     statusBar()->addPermanentWidget(m_status);
 }
@@ -179,6 +184,30 @@ bool MvDemoWindow::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
+void MvDemoWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    keepTracksInSight();
+}
+
+void MvDemoWindow::keepTracksInSight()
+{
+    // The main window gives a smaller height to the central widget first; the tracks are what a
+    // person works in, so the journal gives its height up first, down to its minimum, and takes
+    // it back, up to its usual height, when the tracks have room to spare.
+    if (!isVisible() || !m_journalDock->isVisible() || m_journalDock->isFloating())
+        return;
+    const int spare = m_column->height() - m_column->sizeHint().height();
+    const int current = m_journalDock->height();
+    int journal = current;
+    if (spare < 0)
+        journal = qMax(m_journalDock->minimumSizeHint().height(), current + spare);
+    else if (current < kJournalHeight)
+        journal = qMin(kJournalHeight, current + spare);
+    if (journal != current)
+        resizeDocks({ m_journalDock }, { journal }, Qt::Vertical);
+}
+
 void MvDemoWindow::viewsChanged()
 {
     trackArea()->update();
@@ -210,16 +239,25 @@ bool MvDemoWindow::moveSelection(qint64 frameOffset, int trackOffset)
 {
     const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).moveReason(frameOffset, trackOffset);
     appendJournal(tr("drag: move the selection by %1 frames and %2 rows").arg(frameOffset).arg(trackOffset));
+    // A diagonal drag takes two commands; when one of them would be refused the clips would end
+    // up half moved, so such a drag is not started at all.
+    const bool diagonal = frameOffset != 0 && trackOffset != 0;
     bool moved = false;
-    {
-        // A diagonal drag is one step to undo, not one per direction.
+    bool halfMoved = false;
+    if (!diagonal || reason.isEmpty()) {
+        // One step to undo, not one per direction.
         MvUndoRedoCommander step(
             m_timeline->undoRedoService(), QStringLiteral("move clips"), QStringLiteral("MvDemoWindow::moveSelection"));
         if (frameOffset != 0)
             moved = m_presenter->moveClipsHorizontal(frameOffset);
-        if (trackOffset != 0)
-            moved = m_presenter->moveClipsVertical(trackOffset) || moved;
+        if (trackOffset != 0 && (moved || !diagonal)) {
+            halfMoved = diagonal;
+            moved = m_presenter->moveClipsVertical(trackOffset);
+        }
     }
+    // Should the model refuse what the host foresaw as possible, the half move goes back.
+    if (halfMoved && !moved)
+        m_timeline->undoRedoService()->undo();
     if (!moved)
         tellRefusal(reason.isEmpty() ? tr("The clips cannot move there.") : reason);
     viewsChanged();
@@ -292,6 +330,7 @@ void MvDemoWindow::setTrackSize(int policy)
     trackArea()->setScrollY(trackArea()->scrollY());
     trackArea()->updateGeometry();
     m_column->refreshScrollBars();
+    keepTracksInSight();
     viewsChanged();
 }
 

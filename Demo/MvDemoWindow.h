@@ -9,6 +9,7 @@
 #include <functional>
 
 class QAction;
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QPlainTextEdit;
@@ -65,6 +66,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -90,6 +92,7 @@ private:
     void showTrackMenu(int trackIndex, const QPoint& globalPos);
     void showRulerMenu(const QPoint& pos);
     void viewsChanged();
+    void keepTracksInSight();
 
     QScopedPointer<MvMemoryTimeline> m_timeline;
     MvDemoLogRouter* m_logRouter = nullptr;
@@ -103,6 +106,7 @@ private:
     MvDemoTimelineColumn* m_column = nullptr;
     MvDemoTrackHeaders* m_headers = nullptr;
     QPlainTextEdit* m_journalView = nullptr;
+    QDockWidget* m_journalDock = nullptr;
     QLabel* m_status = nullptr;
     QHash<QString, QAction*> m_actions;
     QStringList m_journal;

@@ -26,6 +26,7 @@ int main(int argc, char* argv[])
     const bool runScenario = parser.isSet(scenario);
     MvDemoWindow window(!runScenario, parser.isSet(verbose));
     window.show();
+    window.activateWindow();
     if (runScenario) {
         MvDemoScenario player(&window, parser.value(output));
         return player.run() ? 0 : 1;
