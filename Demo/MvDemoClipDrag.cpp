@@ -88,7 +88,8 @@ void MvDemoClipDrag::moveTo(qint64 pointerFrame, int pointerTrack, qint64 snapTh
         earliest = qMin(earliest, clip->start());
     // The presenter stops the earliest clip at frame 0; the drag stops there too.
     const qint64 raw = qMax(pointerFrame - m_pressFrame, -earliest);
-    const MvDemoSnapper::Result snapped = m_snapper.snap(m_edges, raw, snapThreshold);
+    const MvDemoSnapper::Result snapped
+        = snapThreshold > 0 ? m_snapper.snap(m_edges, raw, snapThreshold) : MvDemoSnapper::Result { raw, -1 };
     const bool snapUsable = snapped.guideFrame >= 0 && snapped.offset >= -earliest;
     m_frameOffset = snapUsable ? snapped.offset : raw;
     m_guideFrame = snapUsable ? snapped.guideFrame : -1;

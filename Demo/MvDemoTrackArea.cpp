@@ -9,12 +9,12 @@
 #include "MvDemoTrackPainter.h"
 #include "MvEventFilterManager.h"
 #include "MvTimelineRulerPresenter.h"
+#include "MvToolTipHelper.h"
 
 #include <QApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 MvDemoTrackArea::MvDemoTrackArea(IMvTimeline* timeline, QWidget* parent)
     : QWidget(parent), m_timeline(timeline), m_filters(new MvEventFilterManager(this)), m_mapping(timeline->ruler())
@@ -171,7 +171,7 @@ bool MvDemoTrackArea::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         if (!showMarkerToolTip(help->pos(), help->globalPos()))
-            QToolTip::hideText();
+            MvToolTipHelper::hideToolTip();
         return true;
     }
     return QWidget::event(event);
@@ -190,7 +190,7 @@ bool MvDemoTrackArea::showMarkerToolTip(const QPoint& pos, const QPoint& globalP
     text += QLatin1Char('\n') + MvTimelineRulerPresenter::formatTimecode(int(frame), numerator, denominator);
     if (!marker->comment().isEmpty())
         text += QLatin1Char('\n') + marker->comment();
-    QToolTip::showText(globalPos, text, this);
+    MvToolTipHelper::showToolTip(globalPos, text, false, 0);
     return true;
 }
 
