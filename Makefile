@@ -3,7 +3,7 @@
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps configure build demo test bench asan release install clean
+.PHONY: all deps configure build demo test bench asan release install clean format format-check tidy
 
 all: build
 
@@ -34,6 +34,18 @@ asan: deps
 
 install: build
 	@cmake --install build/dev --prefix $(or $(PREFIX),build/install)
+
+format: deps
+	@./tools/format.sh fix
+
+format-check: deps
+	@./tools/format.sh check
+
+# clang-tidy over the library, its siblings and the demo, with the checks of .clang-tidy.
+tidy: configure
+	@run-clang-tidy -quiet -p build/dev -j $(JOBS) '$(CURDIR)/(Src|Demo)/.*\.cpp' > build/tidy.log 2>&1 \
+		|| (grep -E 'error:|warning:' build/tidy.log | grep -v 'warnings generated'; exit 1)
+	@echo "clang-tidy: no findings"
 
 clean:
 	@rm -rf build

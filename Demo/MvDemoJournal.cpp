@@ -3,6 +3,7 @@
 #include "MvBaseLog.h"
 #include "MvVBLModelGlobal.h"
 
+#include <QHash>
 #include <QMetaObject>
 #include <QThread>
 
@@ -12,32 +13,29 @@ using namespace MVVBLMODEL;
 
 QString MvDemoJournalWords::message(int id)
 {
-    switch (id) {
-    case MessageId::GroupQuestionBeforeSplit:
-        return tr("ask whether to ungroup before splitting");
-    case MessageId::SwitchPlayerToTimeline:
-        return tr("switch the player to this timeline");
-    case MessageId::EffectPasted:
-        return tr("effects pasted");
-    case MessageId::PausePlayer:
-        return tr("pause player");
-    case MessageId::StopPlayer:
-        return tr("stop player");
-    case MessageId::IsPlayerPlaying:
-        return tr("ask whether the player is playing");
-    case MessageId::PausePlayerWithSync:
-        return tr("pause player and wait for it");
-    case MessageId::Seek:
-        return tr("seek");
-    case MessageId::SeekAfterPause:
-        return tr("seek once paused");
-    case MessageId::HidePropertyPanel:
-        return tr("hide the property panel");
-    case MessageId::ShowPropertyPanel:
-        return tr("show the property panel");
-    default:
-        return tr("message %1").arg(id);
-    }
+    // One line per message the library sends to its scene.
+    static const QHash<int, const char*> words {
+        { MessageId::GroupQuestionBeforeSplit, QT_TR_NOOP("ask whether to ungroup before splitting") },
+        { MessageId::SwitchPlayerToTimeline, QT_TR_NOOP("switch the player to this timeline") },
+        { MessageId::AfterEffectPaste, QT_TR_NOOP("effects pasted, update the player") },
+        { MessageId::PausePlayer, QT_TR_NOOP("pause player") },
+        { MessageId::StopPlayer, QT_TR_NOOP("stop player") },
+        { MessageId::IsPlayerPlaying, QT_TR_NOOP("ask whether the player is playing") },
+        { MessageId::PausePlayerWithSync, QT_TR_NOOP("pause player and wait for it") },
+        { MessageId::Seek, QT_TR_NOOP("seek") },
+        { MessageId::SeekAfterPause, QT_TR_NOOP("seek once paused") },
+        { MessageId::HidePropertyPanel, QT_TR_NOOP("hide the property panel") },
+        { MessageId::ShowPropertyPanelPage, QT_TR_NOOP("show a page of the property panel") },
+        { MessageId::ShowAdvancedSubtitleEditor, QT_TR_NOOP("open the advanced subtitle editor") },
+        { MessageId::ShowAdvancedTextEditor, QT_TR_NOOP("open the advanced text editor") },
+        { MessageId::ShowAdvancedColor, QT_TR_NOOP("open the advanced colour panel") },
+        { MessageId::ShowAdvancedTitleEditor, QT_TR_NOOP("open the advanced title editor") },
+        { MessageId::EffectsDeleted, QT_TR_NOOP("effects deleted") },
+        { MessageId::EffectsPasted, QT_TR_NOOP("effects pasted") },
+        { MessageId::ShowPropertyPanel, QT_TR_NOOP("show the property panel") },
+    };
+    const char* text = words.value(id);
+    return text ? tr(text) : tr("message %1").arg(id);
 }
 
 QString MvDemoJournalWords::level(int level)

@@ -21,6 +21,7 @@
 #include "MvDemoRenderSimulator.h"
 #include "MvDemoScene.h"
 #include "MvDemoTimelineColumn.h"
+#include "MvDemoToastHost.h"
 #include "MvDemoTrackArea.h"
 #include "MvDemoTrackHeaders.h"
 #include "MvTimelineRulerPresenter.h"
@@ -38,8 +39,6 @@
 #include <QTimer>
 
 namespace {
-constexpr int kNoticeMs = 5000;
-constexpr int kSplitCommandId = 2001;
 const QSize kMinimumSize(720, 420);
 constexpr int kJournalHeight = 150;
 }
@@ -56,6 +55,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     m_scene->setDialogParent(this);
     m_scene->setInteractive(interactive);
     connect(m_scene, &MvDemoScene::journal, this, &MvDemoWindow::appendJournal);
+    m_toastHost = new MvDemoToastHost(this);
 
     m_presenter = new MvDemoPresenter(this, m_timeline.data());
     m_presenter->setScene(m_scene);
@@ -124,7 +124,7 @@ void MvDemoWindow::buildLayout()
     rows->addWidget(m_column, 1);
     setCentralWidget(central);
     if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
-        shortcuts->setShortcutText(kSplitCommandId, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
+        shortcuts->setShortcutText(MvCommandId::SplitClips, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
 }
 
 void MvDemoWindow::buildJournal()
@@ -267,7 +267,7 @@ bool MvDemoWindow::moveSelection(qint64 frameOffset, int trackOffset)
 void MvDemoWindow::tellRefusal(const QString& text)
 {
     appendJournal(tr("refused: %1").arg(text));
-    statusBar()->showMessage(text, kNoticeMs);
+    m_toastHost->showNotice(text);
 }
 
 void MvDemoWindow::keyPressEvent(QKeyEvent* event)

@@ -22,6 +22,7 @@ class MvDemoPresenter;
 class MvDemoRenderSimulator;
 class MvDemoScene;
 class MvDemoTimelineColumn;
+class MvDemoToastHost;
 class MvDemoTrackArea;
 class MvDemoTrackHeaders;
 class MvTimelinePlayheadWidget;
@@ -98,6 +99,7 @@ private:
     MvDemoLogRouter* m_logRouter = nullptr;
     MvDemoPlayer* m_player = nullptr;
     MvDemoScene* m_scene = nullptr;
+    MvDemoToastHost* m_toastHost = nullptr;
     MvDemoPresenter* m_presenter = nullptr;
     MvTimelineRulerPresenter* m_rulerPresenter = nullptr;
     MvDemoMarkerPresenter* m_markerPresenter = nullptr;

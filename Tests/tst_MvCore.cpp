@@ -24,6 +24,10 @@ private Q_SLOTS:
     void removedSinkReceivesNothing();
     void customEventGoesToTheFirstConsumingListener();
     void destroyedListenerIsForgotten();
+    void sharedEventReachesTheListenersTheFilterAdmits_data();
+    void sharedEventReachesTheListenersTheFilterAdmits();
+    void sharedEventsArriveInSendOrderAndAreNotKept();
+    void nullSharedEventIsRefused();
     void fractionalScalesAreRecognised_data();
     void fractionalScalesAreRecognised();
     void mainWindowIsFoundAmongTopLevels();
@@ -171,6 +175,95 @@ void tst_MvCore::destroyedListenerIsForgotten()
     }
     QCOMPARE(MvCustomEventDispatcher::instance().listenerCount(name), 0);
     QVERIFY(!MvCustomEventDispatcher::instance().sendEvent(name));
+}
+
+void tst_MvCore::sharedEventReachesTheListenersTheFilterAdmits_data()
+{
+    QTest::addColumn<bool>("filtered");
+    QTest::addColumn<QStringList>("admitted");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<bool>("consumed");
+
+    const QString a = QStringLiteral("a");
+    const QString b = QStringLiteral("b");
+    const QString c = QStringLiteral("c");
+    QTest::newRow("empty filter: all until the consumer") << false << QStringList() << QStringList { a, b } << true;
+    QTest::newRow("filter admits all") << true << QStringList { a, b, c } << QStringList { a, b } << true;
+    QTest::newRow("filter excludes the first") << true << QStringList { b, c } << QStringList { b } << true;
+    QTest::newRow("filter excludes the consumer") << true << QStringList { a, c } << QStringList { a, c } << false;
+    QTest::newRow("filter excludes everyone") << true << QStringList() << QStringList() << false;
+}
+
+// Listeners a, b and c listen for "Notice" in that order; b consumes what it receives.
+void tst_MvCore::sharedEventReachesTheListenersTheFilterAdmits()
+{
+    QFETCH(bool, filtered);
+    QFETCH(QStringList, admitted);
+    QFETCH(QStringList, calls);
+    QFETCH(bool, consumed);
+
+    const QString name = QStringLiteral("Notice");
+    QStringList received;
+    QObject owners[3];
+    QObject otherOwner;
+    new MvCustomEventListener(&otherOwner, QStringLiteral("Other"), [&received](const MvCustomEventImp&) {
+        received << QStringLiteral("other");
+        return true;
+    });
+    for (int i = 0; i < 3; ++i) {
+        const QString owner = QString(QLatin1Char('a' + i));
+        owners[i].setObjectName(owner);
+        new MvCustomEventListener(&owners[i], name, [&received, owner](const MvCustomEventImp& event) {
+            const bool intact = event.values() == QVariantList({ 7, QStringLiteral("text") });
+            received << (intact ? owner : owner + QStringLiteral(" (payload lost)"));
+            return owner == QLatin1String("b");
+        });
+    }
+    MvCustomEventDispatcher::Filter filter;
+    if (filtered) {
+        filter = [admitted](const MvCustomEventListener* listener) {
+            return admitted.contains(listener->parent()->objectName());
+        };
+    }
+
+    auto event = QSharedPointer<MvCustomEventImp>::create(name, QVariantList { 7, QStringLiteral("text") });
+    QCOMPARE(MvCustomEventDispatcher::instance().sendEvent(event, filter), consumed);
+    QCOMPARE(received, calls);
+}
+
+void tst_MvCore::sharedEventsArriveInSendOrderAndAreNotKept()
+{
+    const QString name = QStringLiteral("ShowCustomToast");
+    QObject owner;
+    QStringList texts;
+    new MvCustomEventListener(&owner, name, [&texts](const MvCustomEventImp& event) {
+        texts << event.value(2).toString();
+        return false;
+    });
+
+    QList<QWeakPointer<MvCustomEventImp>> sent;
+    for (const QString& text : { QStringLiteral("first"), QStringLiteral("second") }) {
+        auto event = QSharedPointer<MvCustomEventImp>::create(name, QVariantList { QVariant(), false, text });
+        sent << event;
+        MvCustomEventDispatcher::instance().sendEvent(std::move(event), {});
+    }
+    QCOMPARE(texts, QStringList({ QStringLiteral("first"), QStringLiteral("second") }));
+    QVERIFY(sent.at(0).isNull());
+    QVERIFY(sent.at(1).isNull());
+}
+
+void tst_MvCore::nullSharedEventIsRefused()
+{
+    MvLogCapture capture;
+    QObject owner;
+    int calls = 0;
+    new MvCustomEventListener(&owner, QString(), [&calls](const MvCustomEventImp&) { return ++calls > 0; });
+    QVERIFY(!MvCustomEventDispatcher::instance().sendEvent(QSharedPointer<MvCustomEventImp>(), {}));
+    QCOMPARE(calls, 0);
+    const QList<MvLogRecord> records = capture.find(QStringLiteral("event is null"));
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(records.first().level, 16);
+    QCOMPARE(records.first().function, QStringLiteral("MvCustomEventDispatcher::sendEvent"));
 }
 
 void tst_MvCore::fractionalScalesAreRecognised_data()

@@ -19,13 +19,13 @@
 #include "MvTextEdit.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelineRulerWidget.h"
+#include "MvToast.h"
 #include "MvToolTipHelper.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QStatusBar>
 #include <QtTest>
 
 namespace {
@@ -55,7 +55,12 @@ struct Demo
     }
     qint64 frameAt(const QPoint& pos) const { return area()->mapping().frameAt(pos.x()); }
     int undoCount() const { return window.timeline()->undoRedoService()->undoCount(); }
-    QString notice() const { return window.statusBar()->currentMessage(); }
+    // The text of the newest notice over the window.
+    QString notice() const
+    {
+        const QList<MvToast*> toasts = window.findChildren<MvToast*>();
+        return toasts.isEmpty() ? QString() : toasts.last()->text();
+    }
 
     void mouse(QWidget* target, QEvent::Type type, const QPoint& pos, Qt::MouseButtons buttons)
     {

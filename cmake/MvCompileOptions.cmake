@@ -7,7 +7,7 @@ function(mv_set_compile_options target)
         QT_NO_URL_CAST_FROM_STRING
         QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
     if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual)
         if(MV_WERROR)
             target_compile_options(${target} PRIVATE -Werror)
         endif()
@@ -16,10 +16,15 @@ function(mv_set_compile_options target)
     endif()
 endfunction()
 
-# A shared library of the project, with its export name Mv::<exportName> and its headers
-# installed under include/<folder>.
+# A shared library of the project, with its export name Mv::<exportName>, its binary version and
+# the headers a host includes, named one by one (internal headers and the in-memory model stay out):
+#     mv_install_library(MvCore Core MvCore HEADERS MvPresenter.h ...)
 function(mv_install_library target exportName folder)
-    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exportName})
+    cmake_parse_arguments(PARSE_ARGV 3 arg "" "" "HEADERS")
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${exportName}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
     if(UNIX AND NOT APPLE)
         # Installed side by side: each library finds its siblings next to itself.
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
@@ -29,11 +34,5 @@ function(mv_install_library target exportName folder)
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    get_target_property(sources ${target} SOURCES)
-    foreach(file IN LISTS sources)
-        if(file MATCHES "\\.h$" AND NOT file MATCHES "_p\\.h$")
-            get_filename_component(subdir ${file} DIRECTORY)
-            install(FILES ${file} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder}/${subdir})
-        endif()
-    endforeach()
+    install(FILES ${arg_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
 endfunction()

@@ -8,6 +8,7 @@ packages=(
     qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools libqt5svg5-dev
     libgl1-mesa-dev
     fonts-dejavu-core xvfb xauth
+    clang-format clang-tidy
 )
 
 missing=()

@@ -10,6 +10,9 @@
 #include "MvClipHelpers.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
+#include "MvCommandScope_p.h"
+#include "MvTimelineLog_p.h"
+#include "MvTimelineModelAccess_p.h"
 
 #include <QSet>
 
@@ -20,20 +23,23 @@ using namespace MVVBLMODEL;
 namespace {
 const QSet<MvClipType>& audioKeyFrameTypes()
 {
-    static const QSet<MvClipType> types { 3, 16, 17, 15, 18, 1 };
+    static const QSet<MvClipType> types { ClipType_VideoWithAudio, ClipType_ScreenRecording, ClipType_Music,
+        ClipType_Compound, ClipType_SoundEffect, ClipType_Audio };
     return types;
 }
 
 const QSet<MvClipType>& videoKeyFrameTypes()
 {
-    static const QSet<MvClipType> types { 2, 3, 16, 15, 4, 5, 6, 13, 9, 8, 7, 14 };
+    static const QSet<MvClipType> types { ClipType_Video, ClipType_VideoWithAudio, ClipType_ScreenRecording,
+        ClipType_Compound, ClipType_Image, ClipType_Text, ClipType_Sticker, ClipType_Subtitle, ClipType_Adjustment,
+        ClipType_Filter, ClipType_Effect, ClipType_Title };
     return types;
 }
 
 // Titles, texts and subtitles keep their keyframes tied to their own layout.
 const QSet<MvClipType>& noCopyPasteTypes()
 {
-    static const QSet<MvClipType> types { 14, 5, 13 };
+    static const QSet<MvClipType> types { ClipType_Title, ClipType_Text, ClipType_Subtitle };
     return types;
 }
 
@@ -54,27 +60,15 @@ MvKeyFramePresenterPrivate::MvKeyFramePresenterPrivate(MvKeyFramePresenter* q, I
 {
 }
 
-QList<IMvClip*> MvKeyFramePresenterPrivate::selectedClips() const
-{
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
-    return selection ? selection->selectedClips() : QList<IMvClip*>();
-}
-
-qint64 MvKeyFramePresenterPrivate::playheadFrame() const
-{
-    IMvTimelinePlayhead* playhead = timeline ? timeline->playhead() : nullptr;
-    return playhead ? playhead->currentFrame() : 0;
-}
-
 IMvClip* MvKeyFramePresenterPrivate::getEnabledMainClip() const
 {
-    const QList<IMvClip*> clips = selectedClips();
+    const QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     return clips.size() == 1 && clips.first()->isEnabled() ? clips.first() : nullptr;
 }
 
 QList<IMvClip*> MvKeyFramePresenterPrivate::getEnabledMainClips() const
 {
-    QList<IMvClip*> clips = selectedClips();
+    QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     clips.erase(std::remove_if(clips.begin(), clips.end(), [](const IMvClip* clip) { return !clip->isEnabled(); }),
         clips.end());
     return clips;
@@ -88,25 +82,25 @@ bool MvKeyFramePresenterPrivate::isSupportCopyAndPaste(const MvClipType& type) c
 MvPropertyType MvKeyFramePresenterPrivate::getDefalutGroupType(MvClipType type) const
 {
     switch (type) {
-    case 1:
-    case 17:
-    case 18:
-        return 0x10;
-    case 2:
-    case 3:
-    case 4:
-    case 9:
-    case 13:
-    case 14:
-    case 15:
-    case 16:
-        return 0x10008;
-    case 5:
-        return 0x10004;
-    case 6:
-        return 0x1000080;
+    case ClipType_Audio:
+    case ClipType_Music:
+    case ClipType_SoundEffect:
+        return PropertyType_Audio;
+    case ClipType_Video:
+    case ClipType_VideoWithAudio:
+    case ClipType_Image:
+    case ClipType_Adjustment:
+    case ClipType_Subtitle:
+    case ClipType_Title:
+    case ClipType_Compound:
+    case ClipType_ScreenRecording:
+        return PropertyType_Picture;
+    case ClipType_Text:
+        return PropertyType_Text;
+    case ClipType_Sticker:
+        return PropertyType_Sticker;
     default:
-        return 0;
+        return PropertyType_None;
     }
 }
 
@@ -122,9 +116,7 @@ bool MvKeyFramePresenterPrivate::addDefaultKeyFrame(IMvClip* clip, qint64 frame,
     Q_Q(MvKeyFramePresenter);
     if (!clip || !timeline || !MvKeyFrameHelper2::canAddKeyFrame(clip, frame, true, audio))
         return false;
-    MvMessage pause(MessageId::PausePlayer);
-    q->sendMessageToScene(&pause);
-    MvUndoRedoCommander commander(timeline->undoRedoService(),
+    const MvCommandScope command(q, MvCommandScope::PausePlayerMessage, timeline->undoRedoService(),
         audio ? QStringLiteral("add audio default key frame") : QStringLiteral("add default key frame"),
         audio ? QStringLiteral("MvKeyFramePresenter::addAudioDefaultKeyFrame")
               : QStringLiteral("MvKeyFramePresenter::addVideoDefaultKeyFrame"));
@@ -150,19 +142,19 @@ bool MvKeyFramePresenterPrivate::addKeyFrame_ShortcutKey()
     }
     if (clips.isEmpty())
         return false;
-    qint64 frame = playheadFrame();
+    qint64 frame = MvModelAccess::playheadFrame(timeline);
     if (clips.size() == 1) {
         IMvClip* clip = clips.first();
         if (!MvKeyFrameHelper2::canAddKeyFrame(clip, frame, true, false)) {
             // Off the clip (or on a keyframe already): start from the clip's first frame instead.
             frame = clip->position();
-            if (timeline->playhead())
-                timeline->playhead()->setCurrentFrame(frame);
+            MvModelAccess::setPlayheadFrame(timeline, frame);
         }
         return addDefaultKeyFrame(clip, frame, false);
     }
-    MvUndoRedoCommander commander(timeline->undoRedoService(), QStringLiteral("mult add default key frame"),
-        QStringLiteral("MvKeyFramePresenter::addKeyFrame_ShortcutKey"));
+    MV_FUNCTION("MvKeyFramePresenter::addKeyFrame_ShortcutKey");
+    const MvCommandScope command(q_func(), MvCommandScope::NoPause, timeline->undoRedoService(),
+        QStringLiteral("mult add default key frame"), MV_SOURCE);
     int failures = 0;
     for (IMvClip* clip : qAsConst(clips)) {
         if (!MvKeyFrameHelper2::canAddKeyFrame(clip, frame, true, false) || !addDefaultKeyFrame(clip, frame, false))
@@ -223,7 +215,7 @@ bool MvKeyFramePresenterPrivate::canPasteKeyFrames() const
     IMvKeyFrameClipboard* clipboard = timeline ? timeline->keyFrameClipboard() : nullptr;
     if (!clipboard)
         return false;
-    QList<IMvClip*> clips = selectedClips();
+    QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     filterVaildPasteClip(clips);
     if (clips.isEmpty() || !clipboard->canPaste(clips))
         return false;
@@ -237,7 +229,7 @@ bool MvKeyFramePresenterPrivate::pasteKeyFrames()
 {
     if (!canPasteKeyFrames())
         return false;
-    QList<IMvClip*> clips = selectedClips();
+    QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     filterVaildPasteClip(clips);
     return timeline->keyFrameClipboard()->paste(clips);
 }
@@ -254,8 +246,9 @@ bool MvKeyFramePresenterPrivate::removeSelectedKeyFrame()
         return false;
     const IMvKeyFrameSelector::MvSelectData selection = timeline->keyFrameSelector()->currentSelection();
     const QList<IMvClip*> clips = getEnabledMainClips();
-    MvUndoRedoCommander commander(timeline->undoRedoService(), QStringLiteral("clear selected key frames"),
-        QStringLiteral("MvKeyFramePresenter::removeSelectedKeyFrame"));
+    MV_FUNCTION("MvKeyFramePresenter::removeSelectedKeyFrame");
+    const MvCommandScope command(q_func(), MvCommandScope::NoPause, timeline->undoRedoService(),
+        QStringLiteral("clear selected key frames"), MV_SOURCE);
     bool removed = false;
     for (IMvClip* clip : clips) {
         if (clip->removeKeyFrames(selection, selection.isAudio()))
@@ -269,8 +262,9 @@ bool MvKeyFramePresenterPrivate::clearAllKeyFrames(bool audio)
     const QList<IMvClip*> clips = getEnabledMainClips();
     if (clips.isEmpty())
         return false;
-    MvUndoRedoCommander commander(timeline->undoRedoService(), QStringLiteral("clear all key frames"),
-        QStringLiteral("MvKeyFramePresenter::clearAllKeyFrames"));
+    MV_FUNCTION("MvKeyFramePresenter::clearAllKeyFrames");
+    const MvCommandScope command(q_func(), MvCommandScope::NoPause, timeline->undoRedoService(),
+        QStringLiteral("clear all key frames"), MV_SOURCE);
     int removals = 0;
     for (IMvClip* clip : clips) {
         if (clip->removeKeyFrames(clip->allKeyFrames(audio), audio))
@@ -302,7 +296,7 @@ void MvKeyFramePresenterPrivate::moveToKeyFrame(bool previous)
     IMvClip* clip = getEnabledMainClip();
     if (!clip)
         return;
-    const qint64 local = MvKeyFrameHelper2::mapFormBelongTimeline(clip, playheadFrame());
+    const qint64 local = MvKeyFrameHelper2::mapFormBelongTimeline(clip, MvModelAccess::playheadFrame(timeline));
     // Both sides together: the user steps through every keyframe the clip shows.
     QList<qint64> positions = clip->keyFrames(false) + clip->keyFrames(true);
     std::sort(positions.begin(), positions.end());
@@ -444,6 +438,6 @@ bool MvKeyFramePresenter::isSupportVideoKeyFrame(MvClipType type) const
 bool MvKeyFramePresenter::isKeyFrameItemEnabled(IMvClip* clip)
 {
     Q_D(const MvKeyFramePresenter);
-    const QList<IMvClip*> clips = d->selectedClips();
+    const QList<IMvClip*> clips = MvModelAccess::selectedClips(d->timeline);
     return clip && clips.size() == 1 && clips.first() == clip;
 }

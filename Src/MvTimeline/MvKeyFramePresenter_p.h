@@ -29,8 +29,6 @@ public:
     MVVBLMODEL::MvPropertyType getDefalutGroupType(MVVBLMODEL::MvClipType type) const;
     IMvClip* getEnabledMainClip() const;
     QList<IMvClip*> getEnabledMainClips() const;
-    QList<IMvClip*> selectedClips() const;
-    qint64 playheadFrame() const;
     void showTransformPanel(IMvClip* clip);
 
     MvKeyFramePresenter* q_ptr;

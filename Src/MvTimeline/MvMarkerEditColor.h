@@ -7,7 +7,7 @@
 #include <QList>
 
 // A row of colour swatches; a click selects one, a click between them selects none.
-class MVTIMELINE_EXPORT MvMarkerEditColor : public MvWidget
+class MVTIMELINE_TEST_EXPORT MvMarkerEditColor : public MvWidget
 {
     Q_OBJECT
 

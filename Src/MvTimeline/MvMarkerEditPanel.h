@@ -9,7 +9,7 @@ class MvTextEdit;
 class MvMarkerEditColor;
 
 // The body of the marker edit dialog: name, time (read only), comment and colour rows.
-class MVTIMELINE_EXPORT MvMarkerEditPanel : public MvWidget
+class MVTIMELINE_TEST_EXPORT MvMarkerEditPanel : public MvWidget
 {
     Q_OBJECT
 

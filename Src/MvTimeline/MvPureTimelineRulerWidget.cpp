@@ -115,7 +115,7 @@ MvPureTimelineRulerWidget::MvPureTimelineRulerWidget(QWidget* parent)
     setAttribute(Qt::WA_MouseTracking);
     // The property panel's timeline zoom control speaks through this event.
     new MvCustomEventListener(
-        this, QStringLiteral("NotifyAdjustPropertyTimeLine"), [this](const MvCustomEventImp& event) {
+        this, QLatin1String(MvEventName::NotifyAdjustPropertyTimeLine), [this](const MvCustomEventImp& event) {
             Q_D(MvPureTimelineRulerWidget);
             d->ruler->zoom(-event.intValue());
             return false;

@@ -20,13 +20,13 @@ class QMouseEvent;
 class QWheelEvent;
 class QWidget;
 
-class MVTIMELINE_EXPORT MvRulerGesture : public QObject
+class MVTIMELINE_TEST_EXPORT MvRulerGesture : public QObject
 {
     Q_OBJECT
 
 public:
     // What the gestures act on.
-    class MVTIMELINE_EXPORT Target
+    class MVTIMELINE_TEST_EXPORT Target
     {
     public:
         virtual ~Target();

@@ -21,9 +21,9 @@ class QRect;
 
 namespace MvExactFill {
 // The first device pixel whose centre lies after the device coordinate.
-MVTIMELINE_EXPORT int firstCentreAfter(double device);
+MVTIMELINE_TEST_EXPORT int firstCentreAfter(double device);
 // True when the painter only scales and translates, the case the snapping reproduces.
-MVTIMELINE_EXPORT bool canSnap(const QPainter& painter);
+MVTIMELINE_TEST_EXPORT bool canSnap(const QPainter& painter);
 }
 
 // A horizontal stretch [x0, x1] in logical pixels (a rectangle of the render strip).
@@ -36,19 +36,19 @@ struct MvPixelSpan
 namespace MvRulerPainter {
 // The whole ruler: background, labels and ticks of `ruler` over `rect`. `scratch` keeps its
 // buffers between paints. Nothing is drawn without a ruler.
-MVTIMELINE_EXPORT void paint(
+MVTIMELINE_TEST_EXPORT void paint(
     QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerLayout& scratch);
 
 // The ticks of a layout as rectangles (left, top, tickWidth, height + dy), filled with `color`.
-MVTIMELINE_EXPORT void fillTicks(
+MVTIMELINE_TEST_EXPORT void fillTicks(
     QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color);
 }
 
 namespace MvStripPainter {
 // Sorts (when needed) and merges overlapping or touching stretches in place; empty ones go.
-MVTIMELINE_EXPORT void mergeSpans(QVector<MvPixelSpan>* spans);
+MVTIMELINE_TEST_EXPORT void mergeSpans(QVector<MvPixelSpan>* spans);
 // Fills the union of the rectangles (x0, 0, x1 - x0, height) of merged stretches; only those
 // that meet [0, width] are visited.
-MVTIMELINE_EXPORT void fillSpans(
+MVTIMELINE_TEST_EXPORT void fillSpans(
     QPainter& painter, const QVector<MvPixelSpan>& merged, int width, int height, const QColor& color);
 }

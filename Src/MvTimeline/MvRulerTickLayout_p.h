@@ -47,10 +47,10 @@ constexpr int kMaxTicks = 1 << 20;
 
 // Labels go on every labelEvery-th tick: a multiple of five (so only on major ticks) chosen so
 // that consecutive labels are more than one label width apart.
-MVTIMELINE_EXPORT int labelEvery(int labelWidth, double spacing);
+MVTIMELINE_TEST_EXPORT int labelEvery(int labelWidth, double spacing);
 
 // Fills `layout` (its buffers are reused between paints). Ticks sit on absolute multiples of the
 // step, from the first one at or after the left edge up to and including the right edge; labels
 // keep a gap of five pixels. Only the visible range is walked.
-MVTIMELINE_EXPORT void layout(const MvRulerLayoutInput& input, MvRulerLayout* layout);
+MVTIMELINE_TEST_EXPORT void layout(const MvRulerLayoutInput& input, MvRulerLayout* layout);
 }

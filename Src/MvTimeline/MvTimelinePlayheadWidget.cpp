@@ -4,6 +4,7 @@
 #include "MvMessage.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvToolTipHelper.h"
+#include "MvVBLModelGlobal.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -13,8 +14,6 @@
 using MVWIDGETS::MvWidgetStyleStatus;
 
 namespace {
-constexpr int kSplitCommandId = 2001;
-constexpr int kQueryPlayerPlaying = 7033;
 constexpr int kToolTipSeconds = 3;
 
 bool isSingleDragButton(Qt::MouseButtons buttons)
@@ -259,7 +258,7 @@ bool MvTimelinePlayheadWidget::toolTipEvent(const QHelpEvent* event)
 {
     if (captureItem(mapFromGlobal(event->globalPos())) != SplitButton)
         return false;
-    const QString shortcut = IMvShortcutEditManager::GetInstance()->shortcutText(kSplitCommandId);
+    const QString shortcut = IMvShortcutEditManager::GetInstance()->shortcutText(MvCommandId::SplitClips);
     const QString suffix = shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(shortcut);
     const QString text = QStringLiteral("%1%3\n%2").arg(tr("Click to split"), tr("Drag to Move playhead"), suffix);
     MvToolTipHelper::showToolTip(event->globalPos(), text, true, kToolTipSeconds);
@@ -288,7 +287,7 @@ void MvTimelinePlayheadWidget::updateItemStatus(FItemType item, MvWidgetStyleSta
 
 bool MvTimelinePlayheadWidget::canUpdatePosInAutoFollowMode()
 {
-    MvQueryMessage query(kQueryPlayerPlaying);
+    MvQueryMessage query(MVVBLMODEL::MessageId::IsPlayerPlaying);
     m_presenter->sendMessageToScene(&query);
     return !query.asBool();
 }

@@ -1,19 +1,18 @@
+// The frame of the timeline presenter: construction, configuration, mode, action flags,
+// sub-presenters, player coupling and the empty-clip placeholder. Each command family lives in
+// MvTimelinePresenter<Family>.cpp.
 #include "MvTimelinePresenter.h"
 #include "MvTimelinePresenter_p.h"
 
 #include "IMvAbstractClip.h"
 #include "IMvColorCompareService.h"
-#include "IMvSelection.h"
 #include "IMvTimeline.h"
-#include "IMvTrack.h"
+#include "MvCommandScope_p.h"
 #include "MvKeyFramePresenter.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
 #include "MvTimelineVirtualPlayheadPresenter.h"
 
-#include <QMap>
-
-#include <algorithm>
 #include <new>
 
 using namespace MVVBLMODEL;
@@ -44,45 +43,9 @@ MvTimelinePresenterPrivate::~MvTimelinePresenterPrivate()
     delete config;
 }
 
-bool MvTimelinePresenterPrivate::hasEmptyCap() const
+bool MvTimelinePresenterPrivate::isVirtualPlayheadOpen() const
 {
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
-    if (!selection)
-        return false;
-    const QList<IMvClip*> clips = selection->selectedClips();
-    if (clips.size() < 2)
-        return false;
-    QMap<int, QList<IMvClip*>> byTrack;
-    for (IMvClip* clip : clips)
-        byTrack[clip->trackIndex()].append(clip);
-    for (QList<IMvClip*>& trackClips : byTrack) {
-        std::sort(trackClips.begin(), trackClips.end(),
-            [](const IMvClip* a, const IMvClip* b) { return a->start() < b->start(); });
-        for (int i = 1; i < trackClips.size(); ++i) {
-            if (trackClips.at(i)->start() - trackClips.at(i - 1)->end() > 1)
-                return true;
-        }
-    }
-    return false;
-}
-
-int MvTimelinePresenterPrivate::calcDetachAudioTrackIndex(IMvClip* clip) const
-{
-    if (!timeline || !clip)
-        return -1;
-    // The lowest free audio row: search from the last row upward.
-    for (int i = timeline->trackCount() - 1; i >= 0; --i) {
-        IMvTrack* track = timeline->trackAt(i);
-        if (!track || track->type() != TrackType_Audio || track->isLocked())
-            continue;
-        const QList<IMvClip*> trackClips = track->clips();
-        const bool occupied = std::any_of(trackClips.cbegin(), trackClips.cend(), [clip](const IMvClip* other) {
-            return other->start() <= clip->end() && clip->start() <= other->end();
-        });
-        if (!occupied)
-            return i;
-    }
-    return -1;
+    return virtualPlayheadPresenter && virtualPlayheadPresenter->isOpen();
 }
 
 MvTimelinePresenter::MvTimelinePresenter(QObject* parent, IMvTimeline* timeline)
@@ -93,57 +56,6 @@ MvTimelinePresenter::MvTimelinePresenter(QObject* parent, IMvTimeline* timeline)
 MvTimelinePresenter::~MvTimelinePresenter()
 {
     m_name.clear();
-}
-
-bool MvTimelinePresenter::hasEmptyCap()
-{
-    Q_D(const MvTimelinePresenter);
-    return d->hasEmptyCap();
-}
-
-bool MvTimelinePresenter::canSplitClip()
-{
-    Q_D(const MvTimelinePresenter);
-    return d->canSplitClip();
-}
-
-bool MvTimelinePresenter::canTrimToPlayhead()
-{
-    Q_D(const MvTimelinePresenter);
-    return d->canTrimToPlayhead();
-}
-
-bool MvTimelinePresenter::splitClips(qint64 frame, bool select, bool prepareFlag)
-{
-    Q_D(MvTimelinePresenter);
-    return d->splitClips(frame, select, prepareFlag);
-}
-
-bool MvTimelinePresenter::deleteItems(bool arg)
-{
-    Q_D(MvTimelinePresenter);
-    return d->deleteItems(arg);
-}
-
-bool MvTimelinePresenter::canDeleteItems()
-{
-    Q_D(MvTimelinePresenter);
-    return d->canDeleteItems();
-}
-
-bool MvTimelinePresenter::canDeleteClip()
-{
-    Q_D(const MvTimelinePresenter);
-    return d->canDeleteClip();
-}
-
-void MvTimelinePresenter::adjustTrackHeight(int trackIndex, MvTrackSizePolicy policy)
-{
-    Q_D(MvTimelinePresenter);
-    IMvTrack* track = d->timeline ? d->timeline->trackAt(trackIndex) : nullptr;
-    if (!track)
-        return;
-    track->setHeight(getTrackHeight(policy));
 }
 
 void MvTimelinePresenter::setZoomSlider(MvZoomSlider* slider)
@@ -192,8 +104,8 @@ MvTimelineVirtualPlayheadPresenter* MvTimelinePresenter::virtualPlayheadPresente
 
 bool MvTimelinePresenter::isOpenVirtualPlayhead()
 {
-    Q_D(MvTimelinePresenter);
-    return d->virtualPlayheadPresenter && d->virtualPlayheadPresenter->isOpen();
+    Q_D(const MvTimelinePresenter);
+    return d->isVirtualPlayheadOpen();
 }
 
 MvTimelinePresenter::MvTimelineModeType MvTimelinePresenter::modeType() const
@@ -244,12 +156,12 @@ void MvTimelinePresenter::setUpdateActionEnabled(bool enabled)
 
 void MvTimelinePresenter::pauseMediaPlayer()
 {
-    sendMessageToScene(MessageId::PausePlayer);
+    MvCommandScope::pause(this, MvCommandScope::PausePlayer);
 }
 
 void MvTimelinePresenter::pauseMediaPlayerWithSync()
 {
-    sendMessageToScene(MessageId::PausePlayerWithSync);
+    MvCommandScope::pause(this, MvCommandScope::PausePlayerWithSync);
 }
 
 bool MvTimelinePresenter::isMediaPlayerPlaying()
@@ -292,20 +204,6 @@ void MvTimelinePresenter::switchMediaPlayerToTimeline()
     sendMessageToScene(&message);
 }
 
-void MvTimelinePresenter::hidePropertyPanel()
-{
-    MvMessage message(MessageId::HidePropertyPanel);
-    sendMessageToScene(&message);
-}
-
-void MvTimelinePresenter::checkHidePropertyPanel()
-{
-    Q_D(MvTimelinePresenter);
-    if (!d->timeline || d->timeline->virtualPlayheadAllowed())
-        return;
-    hidePropertyPanel();
-}
-
 void MvTimelinePresenter::showEmptyClip(qint64 x, qint64 y, int width, int height)
 {
     m_emptyClipRect = QRect(int(x), int(y), width, height);
@@ -335,167 +233,4 @@ bool MvTimelinePresenter::deleteEmptyClipItem(bool arg)
     // A receiver deletes the gap and hides the placeholder; without one it stays visible.
     Q_EMIT sigDeleteEmptyClipItem(arg);
     return !emptyClipItemVisible();
-}
-
-bool MvTimelinePresenter::splitClips(qint64 frame, QList<IMvClip*> clips, bool select, bool prepareFlag)
-{
-    Q_D(MvTimelinePresenter);
-    return d->splitClips(frame, clips, select, prepareFlag);
-}
-
-bool MvTimelinePresenter::ungroupBeforeSplit(QList<IMvClip*> clips, bool& needGroupAfter)
-{
-    Q_D(MvTimelinePresenter);
-    return d->ungroupBeforeSplit(clips, needGroupAfter);
-}
-
-bool MvTimelinePresenter::groupAfterSplit(QList<IMvClip*> sourceClips, QList<IMvClip*> newClips)
-{
-    Q_D(MvTimelinePresenter);
-    return d->groupAfterSplit(sourceClips, newClips);
-}
-
-bool MvTimelinePresenter::trimStartToPlayhead()
-{
-    Q_D(MvTimelinePresenter);
-    pauseMediaPlayer();
-    return d->trimStartToPlayhead();
-}
-
-bool MvTimelinePresenter::trimEndToPlayhead()
-{
-    Q_D(MvTimelinePresenter);
-    pauseMediaPlayer();
-    return d->trimEndToPlayhead();
-}
-
-bool MvTimelinePresenter::deleteSelectedClips()
-{
-    Q_D(MvTimelinePresenter);
-    const bool deleted = d->deleteSelectedClips();
-    if (deleted)
-        checkHidePropertyPanel();
-    return deleted;
-}
-
-bool MvTimelinePresenter::rippleDeleteSelectedClips()
-{
-    Q_D(MvTimelinePresenter);
-    const bool deleted = d->rippleDeleteSelectedClips();
-    if (deleted)
-        checkHidePropertyPanel();
-    return deleted;
-}
-
-bool MvTimelinePresenter::moveClipsHorizontal(qint64 frameOffset)
-{
-    Q_D(MvTimelinePresenter);
-    return d->moveClipsHorizontal(frameOffset);
-}
-
-bool MvTimelinePresenter::moveClipsVertical(int trackIndexOffset)
-{
-    Q_D(MvTimelinePresenter);
-    return d->moveClipsVertical(trackIndexOffset);
-}
-
-IMvClip* MvTimelinePresenter::getFirstSelectedClip()
-{
-    Q_D(const MvTimelinePresenter);
-    return d->getFirstSelectedClip();
-}
-
-void MvTimelinePresenter::checkAndMoveToSelectedClipStartPos()
-{
-    Q_D(MvTimelinePresenter);
-    d->checkAndMoveToSelectedClipStartPos();
-}
-
-void MvTimelinePresenter::fitTimeline()
-{
-    Q_D(MvTimelinePresenter);
-    d->fitTimeline();
-}
-
-void MvTimelinePresenter::addMarker(const QColor& color)
-{
-    Q_D(MvTimelinePresenter);
-    d->addMarker(color);
-}
-
-bool MvTimelinePresenter::removeSelectedMarker() const
-{
-    Q_D(const MvTimelinePresenter);
-    return d->removeSelectedMarker();
-}
-
-bool MvTimelinePresenter::canRemoveMarker() const
-{
-    Q_D(const MvTimelinePresenter);
-    return d->canRemoveMarker();
-}
-
-void MvTimelinePresenter::removeAllMarker()
-{
-    // Clearing every marker is the host's command (it asks the user first); the entry point stays
-    // here so that hosts built against earlier versions keep linking.
-}
-
-void MvTimelinePresenter::rotate90CW()
-{
-    Q_D(MvTimelinePresenter);
-    d->rotate90CW();
-}
-
-void MvTimelinePresenter::rotate90CCW()
-{
-    Q_D(MvTimelinePresenter);
-    d->rotate90CCW();
-}
-
-bool MvTimelinePresenter::removeSelectedFreezeFrame()
-{
-    Q_D(MvTimelinePresenter);
-    return d->removeSelectedFreezeFrame();
-}
-
-bool MvTimelinePresenter::removeSelectedSmartKeyingNode()
-{
-    Q_D(MvTimelinePresenter);
-    return d->removeSelectedSmartKeyingNode();
-}
-
-int MvTimelinePresenter::getTrackHeight(MvTrackSizePolicy policy)
-{
-    switch (policy) {
-    case 0:
-        return 32;
-    case 1:
-        return 70;
-    case 2:
-        return 160;
-    default:
-        return getTrackHeight(1);
-    }
-}
-
-IMvTrack* MvTimelinePresenter::getSelectedTracked()
-{
-    return nullptr;
-}
-
-MvTrackType MvTimelinePresenter::getSelectedTrackType()
-{
-    return 0;
-}
-
-qint64 MvTimelinePresenter::getDefaultFreezeFrameDuration()
-{
-    return 125;
-}
-
-int MvTimelinePresenter::calcDetachAudioTrackIndex(IMvClip* clip)
-{
-    Q_D(const MvTimelinePresenter);
-    return d->calcDetachAudioTrackIndex(clip);
 }

@@ -95,6 +95,10 @@ public:
     void editMarker();
     void hidePropertyPanel();
     void checkHidePropertyPanel();
+    // Asks the host to show its property panel at a page: an MvDataMessage with the id
+    // MessageId::ShowPropertyPanelPage (9007) carrying the page as an int; -1 asks for the page that
+    // suits the current selection.
+    void showPropertyPanel(int page);
 
     void showEmptyClip(qint64 x, qint64 y, int width, int height);
     void hideEmptyClip();
@@ -126,6 +130,9 @@ public:
     bool removeSelectedFreezeFrame();
     bool removeSelectedSmartKeyingNode();
 
+    // Raises a toast with an already translated text over the view (ShowCustomToast).
+    void showToast(QString text);
+
 Q_SIGNALS:
     void sigClipSelectedChanged();
     void sigClipReplaced();
@@ -140,6 +147,9 @@ protected:
     virtual MVVBLMODEL::MvTrackType getSelectedTrackType();
     virtual qint64 getDefaultFreezeFrameDuration();
     virtual int calcDetachAudioTrackIndex(IMvClip* clip);
+
+    // The two refusals of a compound clip: inserted into itself, or taken from another project.
+    void showTimelineNestToast(bool compoundItself);
 
     void stopMediaPlayer();
     void seekAfterPause();

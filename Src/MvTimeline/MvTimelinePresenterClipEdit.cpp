@@ -1,4 +1,5 @@
-// Clip editing on the selection: split, trim, delete, ripple delete and moves.
+// Clip editing on the selection: split, trim, delete, ripple delete, and the questions that
+// enable them.
 #include "MvTimelinePresenter.h"
 #include "MvTimelinePresenter_p.h"
 
@@ -7,16 +8,17 @@
 #include "IMvMarker.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
-#include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
 #include "MvClipHelpers.h"
+#include "MvCommandScope_p.h"
 #include "MvKeyFramePresenter.h"
 #include "MvMessage.h"
 #include "MvTimelineLog_p.h"
-#include "MvTimelineVirtualPlayheadPresenter.h"
+#include "MvTimelineModelAccess_p.h"
 
+#include <QMap>
 #include <QVariantList>
 
 #include <algorithm>
@@ -24,47 +26,165 @@
 
 using namespace MVVBLMODEL;
 
-#define MV_PRESENTER_LOG(level, function, message)                                                                     \
-    MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelinePresenter", function, message)
+MV_LOG_FILE("Src/MvTimeline/MvTimelinePresenter");
 
 namespace {
-const char* const SplitFunction = "MvTimelinePresenterPrivate::splitClips";
-
-// Row span of one kind of clips (picture or audio) in a vertical move.
-struct MvRowSpan
+// Trims act on exactly one selected item, and only when that item is a clip.
+IMvClip* trimTarget(const IMvTimeline* timeline)
 {
-    int minimum = 10000000;
-    int maximum = 0;
-    int offset = 0;
+    const IMvSelection* selection = MvModelAccess::selection(timeline);
+    if (!selection || selection->count() != 1)
+        return nullptr;
+    const QList<IMvClip*> clips = selection->selectedClips();
+    return clips.isEmpty() ? nullptr : clips.first();
+}
 
-    void add(int index)
-    {
-        minimum = std::min(minimum, index);
-        maximum = std::max(maximum, index);
+// A lone selected transition, or null.
+IMvTransition* loneSelectedTransition(const IMvSelection* selection)
+{
+    const QList<IMvAbstractClip*> items = selection->selectedItems();
+    if (selection->count() != 1 || items.size() != 1 || items.first()->type() != ClipType_Transition)
+        return nullptr;
+    return dynamic_cast<IMvTransition*>(items.first());
+}
+}
+
+bool MvTimelinePresenter::hasEmptyCap()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->hasEmptyCap();
+}
+
+bool MvTimelinePresenter::canSplitClip()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canSplitClip();
+}
+
+bool MvTimelinePresenter::canTrimToPlayhead()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canTrimToPlayhead();
+}
+
+bool MvTimelinePresenter::splitClips(qint64 frame, bool select, bool prepareFlag)
+{
+    Q_D(MvTimelinePresenter);
+    return d->splitClips(frame, select, prepareFlag);
+}
+
+bool MvTimelinePresenter::deleteItems(bool arg)
+{
+    Q_D(MvTimelinePresenter);
+    return d->deleteItems(arg);
+}
+
+bool MvTimelinePresenter::canDeleteItems()
+{
+    Q_D(MvTimelinePresenter);
+    return d->canDeleteItems();
+}
+
+bool MvTimelinePresenter::canDeleteClip()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canDeleteClip();
+}
+
+bool MvTimelinePresenter::splitClips(qint64 frame, QList<IMvClip*> clips, bool select, bool prepareFlag)
+{
+    Q_D(MvTimelinePresenter);
+    return d->splitClips(frame, clips, select, prepareFlag);
+}
+
+bool MvTimelinePresenter::ungroupBeforeSplit(QList<IMvClip*> clips, bool& needGroupAfter)
+{
+    Q_D(MvTimelinePresenter);
+    return d->ungroupBeforeSplit(clips, needGroupAfter);
+}
+
+bool MvTimelinePresenter::groupAfterSplit(QList<IMvClip*> sourceClips, QList<IMvClip*> newClips)
+{
+    Q_D(MvTimelinePresenter);
+    return d->groupAfterSplit(sourceClips, newClips);
+}
+
+bool MvTimelinePresenter::trimStartToPlayhead()
+{
+    Q_D(MvTimelinePresenter);
+    return d->trimStartToPlayhead();
+}
+
+bool MvTimelinePresenter::trimEndToPlayhead()
+{
+    Q_D(MvTimelinePresenter);
+    return d->trimEndToPlayhead();
+}
+
+bool MvTimelinePresenter::deleteSelectedClips()
+{
+    Q_D(MvTimelinePresenter);
+    const bool deleted = d->deleteSelectedClips();
+    if (deleted)
+        checkHidePropertyPanel();
+    return deleted;
+}
+
+bool MvTimelinePresenter::rippleDeleteSelectedClips()
+{
+    Q_D(MvTimelinePresenter);
+    const bool deleted = d->rippleDeleteSelectedClips();
+    if (deleted)
+        checkHidePropertyPanel();
+    return deleted;
+}
+
+IMvClip* MvTimelinePresenter::getFirstSelectedClip()
+{
+    Q_D(const MvTimelinePresenter);
+    return d->getFirstSelectedClip();
+}
+
+void MvTimelinePresenter::checkAndMoveToSelectedClipStartPos()
+{
+    Q_D(MvTimelinePresenter);
+    d->checkAndMoveToSelectedClipStartPos();
+}
+
+void MvTimelinePresenter::fitTimeline()
+{
+    Q_D(MvTimelinePresenter);
+    d->fitTimeline();
+}
+
+bool MvTimelinePresenterPrivate::hasEmptyCap() const
+{
+    const QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
+    if (clips.size() < 2)
+        return false;
+    QMap<int, QList<IMvClip*>> byTrack;
+    for (IMvClip* clip : clips)
+        byTrack[clip->trackIndex()].append(clip);
+    for (QList<IMvClip*>& trackClips : byTrack) {
+        std::sort(trackClips.begin(), trackClips.end(),
+            [](const IMvClip* a, const IMvClip* b) { return a->start() < b->start(); });
+        for (int i = 1; i < trackClips.size(); ++i) {
+            if (trackClips.at(i)->start() - trackClips.at(i - 1)->end() > 1)
+                return true;
+        }
     }
-};
-}
-
-qint64 MvTimelinePresenterPrivate::playheadFrame() const
-{
-    IMvTimelinePlayhead* playhead = timeline ? timeline->playhead() : nullptr;
-    return playhead ? playhead->currentFrame() : 0;
-}
-
-QList<IMvClip*> MvTimelinePresenterPrivate::selectedClips() const
-{
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
-    return selection ? selection->selectedClips() : QList<IMvClip*>();
+    return false;
 }
 
 bool MvTimelinePresenterPrivate::splitClips(qint64 frame, bool select, bool prepareFlag)
 {
-    MV_PRESENTER_LOG(MvBaseLog::Note, "MvTimelinePresenterPrivate::splitClips", QStringLiteral("split Clips start"));
+    MV_FUNCTION("MvTimelinePresenterPrivate::splitClips");
+    MV_LOG(MvBaseLog::Note, QStringLiteral("split Clips start"));
     if (!timeline)
         return false;
     // Frame 0 stands for "where the playhead is": a cut at the very first frame divides nothing.
     if (frame < 1)
-        frame = playheadFrame();
+        frame = MvModelAccess::playheadFrame(timeline);
     const QList<IMvClip*> clips = IMvClipHelper::findClips(timeline, frame);
     if (clips.isEmpty())
         return false;
@@ -73,13 +193,15 @@ bool MvTimelinePresenterPrivate::splitClips(qint64 frame, bool select, bool prep
         return false;
     QList<IMvClip*> newClips;
     timeline->splitClips(newClips, toCut, frame);
-    if (select && timeline->selection())
-        timeline->selection()->select(newClips);
+    if (select)
+        MvModelAccess::selectClips(timeline, newClips);
     return !newClips.isEmpty();
 }
 
 bool MvTimelinePresenterPrivate::splitClips(qint64 frame, QList<IMvClip*> clips, bool select, bool prepareFlag)
 {
+    Q_Q(MvTimelinePresenter);
+    MV_FUNCTION("MvTimelinePresenterPrivate::splitClips");
     if (!timeline || clips.isEmpty())
         return false;
     const QList<IMvClip*> toCut = IMvClipHelper::findPrepareSplitClip(clips, prepareFlag);
@@ -87,7 +209,8 @@ bool MvTimelinePresenterPrivate::splitClips(qint64 frame, QList<IMvClip*> clips,
         return false;
     // Ungrouping, the cut and the regrouping are one step for the user; a declined question
     // leaves the step empty and the commander drops it.
-    MvUndoRedoCommander commander(timeline->undoRedoService(), QStringLiteral("split"), QLatin1String(SplitFunction));
+    const MvCommandScope command(
+        q, MvCommandScope::NoPause, timeline->undoRedoService(), QStringLiteral("split"), MV_SOURCE);
     bool needGroupAfter = false;
     if (!ungroupBeforeSplit(toCut, needGroupAfter))
         return false;
@@ -95,16 +218,13 @@ bool MvTimelinePresenterPrivate::splitClips(qint64 frame, QList<IMvClip*> clips,
     timeline->splitClips(newClips, toCut, frame);
     if (needGroupAfter) {
         groupAfterSplit(toCut, newClips);
-        MV_PRESENTER_LOG(
-            MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips", QStringLiteral("groupAfterSplit"));
+        MV_LOG(MvBaseLog::Detail, QStringLiteral("groupAfterSplit"));
     }
     if (select) {
-        MV_PRESENTER_LOG(MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips",
+        MV_LOG(MvBaseLog::Detail,
             QString::asprintf("bug:p7_5312 selected split clips,clip count = %d", int(newClips.size())));
-        if (timeline->selection())
-            timeline->selection()->select(newClips);
-        MV_PRESENTER_LOG(
-            MvBaseLog::Detail, "MvTimelinePresenterPrivate::splitClips", QStringLiteral("bug:p7_5312 selected end"));
+        MvModelAccess::selectClips(timeline, newClips);
+        MV_LOG(MvBaseLog::Detail, QStringLiteral("bug:p7_5312 selected end"));
     }
     return !newClips.isEmpty();
 }
@@ -112,9 +232,9 @@ bool MvTimelinePresenterPrivate::splitClips(qint64 frame, QList<IMvClip*> clips,
 bool MvTimelinePresenterPrivate::canSplitClip() const
 {
     // The virtual playhead shows a second position; a cut would be ambiguous while it is open.
-    if ((virtualPlayheadPresenter && virtualPlayheadPresenter->isOpen()) || !timeline)
+    if (isVirtualPlayheadOpen() || !timeline)
         return false;
-    const QList<IMvClip*> clips = MvClipFinder(timeline).findClips(playheadFrame());
+    const QList<IMvClip*> clips = MvClipFinder(timeline).findClips(MvModelAccess::playheadFrame(timeline));
     return std::any_of(clips.cbegin(), clips.cend(), [](const IMvClip* clip) {
         const IMvTrack* track = clip ? clip->track() : nullptr;
         return track && !track->isLocked();
@@ -125,7 +245,7 @@ bool MvTimelinePresenterPrivate::ungroupBeforeSplit(QList<IMvClip*> clips, bool&
 {
     Q_Q(MvTimelinePresenter);
     needGroupAfter = false;
-    IMvClipEditService* editService = timeline ? timeline->editService() : nullptr;
+    IMvClipEditService* editService = MvModelAccess::editService(timeline);
     if (!editService)
         return true;
     for (IMvClip* clip : qAsConst(clips)) {
@@ -156,7 +276,7 @@ bool MvTimelinePresenterPrivate::groupAfterSplit(QList<IMvClip*> sourceClips, QL
 {
     if (newClips.isEmpty())
         return true;
-    IMvClipEditService* editService = timeline ? timeline->editService() : nullptr;
+    IMvClipEditService* editService = MvModelAccess::editService(timeline);
     if (!editService)
         return false;
     for (int i = 0; i < newClips.size(); ++i) {
@@ -174,58 +294,51 @@ bool MvTimelinePresenterPrivate::groupAfterSplit(QList<IMvClip*> sourceClips, QL
     return true;
 }
 
-IMvClip* MvTimelinePresenterPrivate::trimTarget() const
-{
-    // Trims act on exactly one selected item, and only when that item is a clip.
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
-    if (!selection || selection->count() != 1)
-        return nullptr;
-    const QList<IMvClip*> clips = selection->selectedClips();
-    return clips.isEmpty() ? nullptr : clips.first();
-}
-
 bool MvTimelinePresenterPrivate::trimStartToPlayhead()
 {
-    IMvClip* clip = trimTarget();
-    return clip && timeline->trimStartToFrame(clip, playheadFrame());
+    Q_Q(MvTimelinePresenter);
+    // The model's trim records its own undo step.
+    const MvCommandScope command(q, MvCommandScope::PausePlayer);
+    IMvClip* clip = trimTarget(timeline);
+    return clip && timeline->trimStartToFrame(clip, MvModelAccess::playheadFrame(timeline));
 }
 
 bool MvTimelinePresenterPrivate::trimEndToPlayhead()
 {
-    IMvClip* clip = trimTarget();
-    return clip && timeline->trimEndToFrame(clip, playheadFrame());
+    Q_Q(MvTimelinePresenter);
+    const MvCommandScope command(q, MvCommandScope::PausePlayer);
+    IMvClip* clip = trimTarget(timeline);
+    return clip && timeline->trimEndToFrame(clip, MvModelAccess::playheadFrame(timeline));
 }
 
 bool MvTimelinePresenterPrivate::canTrimToPlayhead() const
 {
-    const QList<IMvClip*> clips = selectedClips();
+    const QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     if (clips.size() != 1)
         return false;
     // A trim on the clip's first or last frame would leave it as it is.
-    const qint64 frame = playheadFrame();
+    const qint64 frame = MvModelAccess::playheadFrame(timeline);
     return clips.first()->start() < frame && frame < clips.first()->end();
 }
 
 bool MvTimelinePresenterPrivate::deleteSelectedClips()
 {
     Q_Q(MvTimelinePresenter);
+    MV_FUNCTION("MvTimelinePresenterPrivate::deleteSelectedClips");
     if (!actionEnabled) {
-        MV_PRESENTER_LOG(
-            MvBaseLog::Refusal, "MvTimelinePresenterPrivate::deleteSelectedClips", QStringLiteral("cannt do action"));
+        MV_LOG(MvBaseLog::Refusal, QStringLiteral("cannt do action"));
         return false;
     }
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
+    IMvSelection* selection = MvModelAccess::selection(timeline);
     if (!selection)
         return false;
-    const QList<IMvAbstractClip*> items = selection->selectedItems();
-    if (selection->count() == 1 && items.size() == 1 && items.first()->type() == ClipType_Transition) {
+    if (IMvTransition* transition = loneSelectedTransition(selection)) {
         // A lone transition goes by itself; its clips and the playhead stay where they are.
-        auto* transition = dynamic_cast<IMvTransition*>(items.first());
-        IMvClip* owner = transition ? transition->ownerClip() : nullptr;
+        IMvClip* owner = transition->ownerClip();
         IMvTransitionList* list = owner ? owner->transitionList() : nullptr;
         if (!list)
             return false;
-        q->pauseMediaPlayer();
+        const MvCommandScope command(q, MvCommandScope::PausePlayer);
         list->remove(transition->identifier(), transition->placement());
         return true;
     }
@@ -236,29 +349,29 @@ bool MvTimelinePresenterPrivate::deleteSelectedClips()
     for (const IMvClip* clip : clips)
         earliest = std::min(earliest, clip->start());
     timeline->beginDelete();
-    q->pauseMediaPlayerWithSync();
+    const MvCommandScope command(q, MvCommandScope::PausePlayerWithSync);
     const bool result = timeline->deleteClips(clips);
+    // The timeline may now end before the earliest deleted clip began.
     earliest = std::min(earliest, timeline->duration());
-    if (timeline->isSeekAfterDelete() && timeline->playhead())
-        timeline->playhead()->setCurrentFrame(earliest);
+    if (timeline->isSeekAfterDelete())
+        MvModelAccess::setPlayheadFrame(timeline, earliest);
     return result;
 }
 
 bool MvTimelinePresenterPrivate::rippleDeleteSelectedClips()
 {
     Q_Q(MvTimelinePresenter);
-    const QList<IMvClip*> clips = selectedClips();
+    MV_FUNCTION("MvTimelinePresenterPrivate::rippleDeleteSelectedClips");
+    const QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     if (clips.isEmpty()) {
-        MV_PRESENTER_LOG(MvBaseLog::Warning, "MvTimelinePresenterPrivate::rippleDeleteSelectedClips",
-            QStringLiteral("clip is null"));
+        MV_LOG(MvBaseLog::Warning, QStringLiteral("clip is null"));
         return false;
     }
-    q->pauseMediaPlayer();
+    const MvCommandScope command(q, MvCommandScope::PausePlayer);
     // The user looks at the first clip picked: the playhead lands where it began.
     const qint64 first = clips.first()->start();
     const bool result = timeline->rippleDeleteClips(clips);
-    if (timeline->playhead())
-        timeline->playhead()->setCurrentFrame(first);
+    MvModelAccess::setPlayheadFrame(timeline, first);
     return result;
 }
 
@@ -294,144 +407,26 @@ bool MvTimelinePresenterPrivate::canDeleteItems()
 
 bool MvTimelinePresenterPrivate::canDeleteClip() const
 {
-    if (!actionEnabled || !timeline)
-        return false;
-    IMvSelection* selection = timeline->selection();
-    return selection && !selection->isEmpty();
-}
-
-QList<IMvClip*> MvTimelinePresenterPrivate::withMotionFollowers(const QList<IMvClip*>& selected) const
-{
-    MvMotionTrackHelper helper;
-    helper.setTimeline(timeline);
-    QList<IMvClip*> moving = selected;
-    for (IMvClip* clip : selected) {
-        IMvClip* follower = helper.getFollower(clip);
-        if (follower && !moving.contains(follower))
-            moving.append(follower);
-    }
-    return moving;
-}
-
-bool MvTimelinePresenterPrivate::moveWithActionsHeld(
-    const QList<IMvClip*>& clips, const QList<int>& trackOffsets, qint64 frameOffset, const QList<IMvClip*>& selected)
-{
-    Q_Q(MvTimelinePresenter);
-    // Menus are refreshed once, after the model has settled, not for every notification of the move.
-    updateActionEnabled = false;
-    q->pauseMediaPlayer();
-    const bool result = timeline->moveClips(clips, trackOffsets, frameOffset, 2);
-    // Followers move along but the user's selection stays what it was.
-    if (timeline->selection())
-        timeline->selection()->select(selected);
-    updateActionEnabled = true;
-    q->updateAction();
-    Q_EMIT q->sigActionStatusChanged();
-    return result;
-}
-
-bool MvTimelinePresenterPrivate::moveClipsHorizontal(qint64 frameOffset)
-{
-    MV_PRESENTER_LOG(MvBaseLog::Note, "MvTimelinePresenterPrivate::moveClipsHorizontal",
-        QString::asprintf("horizontal move clips, frameOffset %d", int(frameOffset)));
-    if (frameOffset == 0 || !timeline)
-        return false;
-    const QList<IMvClip*> selected = selectedClips();
-    if (selected.isEmpty())
-        return false;
-    const QList<IMvClip*> moving = withMotionFollowers(selected);
-    QList<int> trackOffsets;
-    trackOffsets.reserve(moving.size());
-    for (int i = 0; i < moving.size(); ++i)
-        trackOffsets.append(0);
-    if (frameOffset < 0) {
-        qint64 minStart = std::numeric_limits<qint64>::max();
-        for (const IMvClip* clip : moving)
-            minStart = std::min(minStart, clip->start());
-        if (minStart == 0)
-            return false;
-        // Clamped so that the earliest clip lands on frame 0 instead of refusing the whole move.
-        if (frameOffset + minStart < 0)
-            frameOffset = -minStart;
-    }
-    return moveWithActionsHeld(moving, trackOffsets, frameOffset, selected);
-}
-
-bool MvTimelinePresenterPrivate::moveClipsVertical(int trackIndexOffset)
-{
-    MV_PRESENTER_LOG(MvBaseLog::Note, "MvTimelinePresenterPrivate::moveClipsVertical",
-        QString::asprintf("vertical move clips, trackIndexOffset %d", trackIndexOffset));
-    if (trackIndexOffset == 0 || !timeline)
-        return false;
-    const QList<IMvClip*> selected = selectedClips();
-    if (selected.isEmpty())
-        return false;
-    const QList<IMvClip*> moving = withMotionFollowers(selected);
-
-    MvRowSpan picture;
-    MvRowSpan audio;
-    for (const IMvClip* clip : moving)
-        (isAudioClipType(clip->type()) ? audio : picture).add(clip->trackIndex());
-    // Audio rows are numbered the other way round: "one row up" is +1 for the kind of the first
-    // clip and -1 for the other kind.
-    const bool audioFirst = isAudioClipType(moving.first()->type());
-    audio.offset = audioFirst ? trackIndexOffset : -trackIndexOffset;
-    picture.offset = audioFirst ? -trackIndexOffset : trackIndexOffset;
-    const IMvTrack* firstPicture = timeline->firstTrackOfType(TrackType_Picture);
-    const IMvTrack* lastAudio = timeline->lastTrackOfType(TrackType_Audio);
-    const int pictureLimit = firstPicture ? firstPicture->index() : 0;
-    const int audioLimit = lastAudio ? lastAudio->index() : timeline->trackCount() - 1;
-    // Each kind moves whole or not at all, so clips that belong together keep their rows apart.
-    if (audio.maximum + audio.offset > audioLimit)
-        audio.offset = 0;
-    if (picture.minimum + picture.offset < pictureLimit)
-        picture.offset = 0;
-
-    QList<IMvClip*> clips;
-    QList<int> offsets;
-    bool anyOffset = false;
-    for (IMvClip* clip : moving) {
-        const IMvTrack* track = clip->track();
-        if (!track)
-            continue;
-        const int offset = isAudioClipType(clip->type()) ? audio.offset : picture.offset;
-        const IMvTrack* target = timeline->trackAt(track->index() + offset);
-        if (target && target->isLocked())
-            continue;
-        const int at = clips.indexOf(clip);
-        if (at >= 0) {
-            offsets[at] = offset;
-        } else {
-            clips.append(clip);
-            offsets.append(offset);
-        }
-        anyOffset = anyOffset || offset != 0;
-    }
-    if (!anyOffset)
-        return false;
-    return moveWithActionsHeld(clips, offsets, 0, selected);
+    const IMvSelection* selection = MvModelAccess::selection(timeline);
+    return actionEnabled && selection && !selection->isEmpty();
 }
 
 IMvClip* MvTimelinePresenterPrivate::getFirstSelectedClip() const
 {
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
-    if (!selection)
-        return nullptr;
-    const QList<IMvAbstractClip*> items = selection->selectedItems();
+    const QList<IMvAbstractClip*> items = MvModelAccess::selectedItems(timeline);
     return items.isEmpty() ? nullptr : dynamic_cast<IMvClip*>(items.first());
 }
 
 void MvTimelinePresenterPrivate::checkAndMoveToSelectedClipStartPos()
 {
     IMvClip* clip = getFirstSelectedClip();
-    IMvTimelinePlayhead* playhead = timeline ? timeline->playhead() : nullptr;
-    if (!clip || !playhead)
+    if (!clip || !MvModelAccess::playhead(timeline))
         return;
     // Half-open on purpose: a playhead on the clip's last frame is sent back to its start too.
-    const qint64 frame = playhead->currentFrame();
+    const qint64 frame = MvModelAccess::playheadFrame(timeline);
     if (clip->start() <= frame && frame < clip->end())
         return;
-    playhead->setCurrentFrame(clip->start());
+    MvModelAccess::setPlayheadFrame(timeline, clip->start());
 }
 
 void MvTimelinePresenterPrivate::fitTimeline()

@@ -7,34 +7,75 @@
 #include "IMvMarker.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
-#include "MvRange.h"
+#include "MvTimelineModelAccess_p.h"
+
+void MvTimelinePresenter::addMarker(const QColor& color)
+{
+    Q_D(MvTimelinePresenter);
+    d->addMarker(color);
+}
+
+bool MvTimelinePresenter::removeSelectedMarker() const
+{
+    Q_D(const MvTimelinePresenter);
+    return d->removeSelectedMarker();
+}
+
+bool MvTimelinePresenter::canRemoveMarker() const
+{
+    Q_D(const MvTimelinePresenter);
+    return d->canRemoveMarker();
+}
+
+void MvTimelinePresenter::removeAllMarker()
+{
+    // Clearing every marker is the host's command (it asks the user first); the entry point stays
+    // here so that hosts built against earlier versions keep linking.
+}
+
+void MvTimelinePresenter::rotate90CW()
+{
+    Q_D(MvTimelinePresenter);
+    d->rotate90CW();
+}
+
+void MvTimelinePresenter::rotate90CCW()
+{
+    Q_D(MvTimelinePresenter);
+    d->rotate90CCW();
+}
+
+bool MvTimelinePresenter::removeSelectedFreezeFrame()
+{
+    Q_D(MvTimelinePresenter);
+    return d->removeSelectedFreezeFrame();
+}
+
+bool MvTimelinePresenter::removeSelectedSmartKeyingNode()
+{
+    Q_D(MvTimelinePresenter);
+    return d->removeSelectedSmartKeyingNode();
+}
+
+qint64 MvTimelinePresenter::getDefaultFreezeFrameDuration()
+{
+    return 125;
+}
 
 void MvTimelinePresenterPrivate::addMarker(const QColor& color)
 {
-    if (!timeline)
+    const qint64 frame = MvModelAccess::playheadFrame(timeline);
+    // The one selected clip takes the marker when the playhead is over it, its last frame included;
+    // otherwise the marker belongs to the timeline.
+    IMvMarkerList* list = MvModelAccess::markerListAtPlayhead(timeline, frame);
+    if (!list)
         return;
-    const qint64 frame = playheadFrame();
-    IMvSelection* selection = timeline->selection();
-    if (selection && selection->count() == 1 && !selection->isTimelineSelected()) {
-        const QList<IMvClip*> clips = selection->selectedClips();
-        if (clips.isEmpty())
-            return;
-        IMvMarkerList* clipList = clips.first()->clipMarkers();
-        if (!clipList)
-            return;
-        // The one selected clip takes the marker when the playhead is over it, its last frame included;
-        // otherwise the marker belongs to the timeline.
-        MvRange<qint64> range;
-        clipList->frameRange(range);
-        if (range.contains(frame)) {
-            clipList->addMarker(clipList->mapFromTimeline(frame), color);
-            return;
-        }
+    if (list == timeline->timelineMarkers()) {
+        if (list->canAddMarker(frame))
+            list->addMarker(frame, color);
+        return;
     }
-    IMvMarkerList* list = timeline->timelineMarkers();
-    if (!list || !list->canAddMarker(frame))
-        return;
-    list->addMarker(frame, color);
+    list->addMarker(list->mapFromTimeline(frame), color);
 }
 
 bool MvTimelinePresenterPrivate::removeSelectedMarker() const
@@ -56,7 +97,7 @@ bool MvTimelinePresenterPrivate::canRemoveMarker() const
 
 void MvTimelinePresenterPrivate::rotate90CW()
 {
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
+    const IMvSelection* selection = MvModelAccess::selection(timeline);
     if (!selection || selection->isEmpty())
         return;
     // The model decides what a rotation of a non-clip item means; it gets a null clip then.
@@ -65,7 +106,7 @@ void MvTimelinePresenterPrivate::rotate90CW()
 
 void MvTimelinePresenterPrivate::rotate90CCW()
 {
-    IMvSelection* selection = timeline ? timeline->selection() : nullptr;
+    const IMvSelection* selection = MvModelAccess::selection(timeline);
     if (!selection || selection->isEmpty())
         return;
     timeline->rotateClip90CCW(dynamic_cast<IMvClip*>(selection->currentItem()));
@@ -73,7 +114,7 @@ void MvTimelinePresenterPrivate::rotate90CCW()
 
 bool MvTimelinePresenterPrivate::removeSelectedFreezeFrame()
 {
-    const QList<IMvClip*> clips = selectedClips();
+    const QList<IMvClip*> clips = MvModelAccess::selectedClips(timeline);
     if (clips.isEmpty())
         return false;
     IMvClip* clip = clips.first();

@@ -11,16 +11,17 @@
 #include "IMvUndoRedoService.h"
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerPresenter.h"
+#include "MvCommandScope_p.h"
 #include "MvTimelineLog_p.h"
+#include "MvTimelineModelAccess_p.h"
 #include "MvUtility.h"
 
 #include <algorithm>
 
+MV_LOG_FILE("Src/MvTimeline/MvTimelinePresenter");
+
 namespace {
 constexpr int kNominalRateWithoutRuler = 30;
-
-#define MV_MARKER_EDIT_LOG(level, message)                                                                             \
-    MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelinePresenter", "MvTimelinePresenterPrivate::editMarker", message)
 
 // "HH:MM:SS:FF", non-drop: frames are counted at the nominal rate (29.97 counts as 30), which is
 // how the ruler labels its ticks too.
@@ -42,25 +43,6 @@ QString formatTimeCode(qint64 frame, const IMvTimelineRuler* ruler)
         .arg(seconds % 60, 2, 10, zero)
         .arg(total % base, 2, 10, zero);
 }
-
-// The list a marker at the playhead belongs to, chosen as adding a marker chooses it: the single
-// selected clip's list when the playhead lies on that clip (both ends included), nothing when the
-// single selected item is not a clip or has no list, the timeline's list otherwise.
-IMvMarkerList* markerListAtPlayhead(IMvTimeline* timeline, qint64 frame)
-{
-    IMvSelection* selection = timeline->selection();
-    if (selection && selection->count() == 1 && !selection->isTimelineSelected()) {
-        const QList<IMvClip*> clips = selection->selectedClips();
-        IMvMarkerList* clipList = clips.isEmpty() || !clips.first() ? nullptr : clips.first()->clipMarkers();
-        if (!clipList)
-            return nullptr;
-        MvRange<qint64> range;
-        clipList->frameRange(range);
-        if (range.contains(frame))
-            return clipList;
-    }
-    return timeline->timelineMarkers();
-}
 }
 
 void MvTimelinePresenter::editMarker()
@@ -73,21 +55,20 @@ void MvTimelinePresenter::editMarker()
 // for the nearest one): it is the marker the user sees under the playhead line.
 void MvTimelinePresenterPrivate::editMarker()
 {
-    Q_Q(MvTimelinePresenter);
-    IMvTimelinePlayhead* playhead = timeline ? timeline->playhead() : nullptr;
-    if (!playhead) {
-        MV_MARKER_EDIT_LOG(16, QStringLiteral("playhead is null"));
+    MV_FUNCTION("MvTimelinePresenterPrivate::editMarker");
+    if (!MvModelAccess::playhead(timeline)) {
+        MV_LOG(MvBaseLog::Refusal, QStringLiteral("playhead is null"));
         return;
     }
-    const qint64 frame = playhead->currentFrame();
-    IMvMarkerList* list = markerListAtPlayhead(timeline, frame);
+    const qint64 frame = MvModelAccess::playheadFrame(timeline);
+    IMvMarkerList* list = MvModelAccess::markerListAtPlayhead(timeline, frame);
     IMvMarker* marker = list ? list->markerAt(list->mapFromTimeline(frame)) : nullptr;
     if (!marker) {
-        MV_MARKER_EDIT_LOG(16, QStringLiteral("no marker at playhead"));
+        MV_LOG(MvBaseLog::Refusal, QStringLiteral("no marker at playhead"));
         return;
     }
 
-    q->pauseMediaPlayer();
+    MvCommandScope::pause(q_func(), MvCommandScope::PausePlayer);
     const QList<QColor> palette = MvMarkerPresenter::markerPalette();
     MvMarkerParam param;
     param.colors = palette;
@@ -101,8 +82,8 @@ void MvTimelinePresenterPrivate::editMarker()
     if (result == MvMarkerEditDialog::Closed)
         return;
 
-    MvUndoRedoCommander step(timeline->undoRedoService(), QStringLiteral("edit marker"),
-        QStringLiteral("MvTimelinePresenterPrivate::editMarker"));
+    const MvCommandScope command(
+        q_func(), MvCommandScope::NoPause, timeline->undoRedoService(), QStringLiteral("edit marker"), MV_SOURCE);
     if (result == MvMarkerEditDialog::Deleted) {
         list->removeMarker(marker);
         return;

@@ -6,9 +6,13 @@
 #include <QHash>
 #include <QList>
 
+class IMvTrack;
 class MvTimelineVirtualPlayheadPresenter;
 class MvKeyFramePresenter;
 
+// The state of one timeline presenter, then its commands grouped by the file that implements them
+// (MvTimelinePresenter<Family>.cpp). Helpers used by one family stay local to that family's file;
+// model access shared by every presenter is in MvTimelineModelAccess_p.h.
 class MvTimelinePresenterPrivate
 {
     Q_DECLARE_PUBLIC(MvTimelinePresenter)
@@ -17,11 +21,21 @@ public:
     MvTimelinePresenterPrivate(MvTimelinePresenter* q, IMvTimeline* timeline);
     ~MvTimelinePresenterPrivate();
 
-    bool hasEmptyCap() const;
-    int calcDetachAudioTrackIndex(IMvClip* clip) const;
-    void editMarker();
+    MvTimelinePresenter* q_ptr;
+    MvTimelineVirtualPlayheadPresenter* virtualPlayheadPresenter = nullptr;
+    MvKeyFramePresenter* keyFramePresenter = nullptr;
+    IMvTimeline* timeline;
+    MvTimelinePresenter::MvTimelineViewConfig* config;
+    bool actionEnabled = true;
+    QHash<MVVBLMODEL::MvClipType, bool> copiedClipTypes;
+    MvTimelinePresenter::MvTimelineModeType modeType = MvTimelinePresenter::NormalMode;
+    bool updateActionEnabled = true;
+
+    // Frame (MvTimelinePresenter.cpp).
+    bool isVirtualPlayheadOpen() const;
 
     // Clip editing (MvTimelinePresenterClipEdit.cpp).
+    bool hasEmptyCap() const;
     bool splitClips(qint64 frame, bool select, bool prepareFlag);
     bool splitClips(qint64 frame, QList<IMvClip*> clips, bool select, bool prepareFlag);
     bool canSplitClip() const;
@@ -35,11 +49,15 @@ public:
     bool deleteItems(bool arg);
     bool canDeleteItems();
     bool canDeleteClip() const;
-    bool moveClipsHorizontal(qint64 frameOffset);
-    bool moveClipsVertical(int trackIndexOffset);
     IMvClip* getFirstSelectedClip() const;
     void checkAndMoveToSelectedClipStartPos();
     void fitTimeline();
+
+    // Moves (MvTimelinePresenterClipMove.cpp).
+    bool moveClipsHorizontal(qint64 frameOffset);
+    bool moveClipsVertical(int trackIndexOffset);
+    bool moveWithActionsHeld(const QList<IMvClip*>& clips, const QList<int>& trackOffsets, qint64 frameOffset,
+        const QList<IMvClip*>& selected);
 
     // Items that are not whole clips (MvTimelinePresenterItems.cpp).
     void addMarker(const QColor& color);
@@ -50,22 +68,13 @@ public:
     bool removeSelectedFreezeFrame();
     bool removeSelectedSmartKeyingNode();
 
-    qint64 playheadFrame() const;
-    QList<IMvClip*> selectedClips() const;
-    IMvClip* trimTarget() const;
-    // The selected clips together with the clips that follow them by motion tracking.
-    QList<IMvClip*> withMotionFollowers(const QList<IMvClip*>& selected) const;
-    // Runs a model move with the action refresh held back until the model has settled.
-    bool moveWithActionsHeld(const QList<IMvClip*>& clips, const QList<int>& trackOffsets, qint64 frameOffset,
-        const QList<IMvClip*>& selected);
+    // Marker editing (MvTimelinePresenterMarkerEdit.cpp).
+    void editMarker();
 
-    MvTimelinePresenter* q_ptr;
-    MvTimelineVirtualPlayheadPresenter* virtualPlayheadPresenter = nullptr;
-    MvKeyFramePresenter* keyFramePresenter = nullptr;
-    IMvTimeline* timeline;
-    MvTimelinePresenter::MvTimelineViewConfig* config;
-    bool actionEnabled = true;
-    QHash<MVVBLMODEL::MvClipType, bool> copiedClipTypes;
-    MvTimelinePresenter::MvTimelineModeType modeType = MvTimelinePresenter::NormalMode;
-    bool updateActionEnabled = true;
+    // Toasts (MvTimelinePresenterToasts.cpp).
+    void showToast(const QString& text);
+
+    // Tracks (MvTimelinePresenterTracks.cpp).
+    void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);
+    int calcDetachAudioTrackIndex(IMvClip* clip) const;
 };

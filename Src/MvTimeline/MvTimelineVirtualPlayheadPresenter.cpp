@@ -5,8 +5,7 @@
 #include "MvTimelineLog_p.h"
 #include "MvTimelinePresenter.h"
 
-#define MV_VIRTUAL_PLAYHEAD_LOG(level, function, message)                                                              \
-    MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelineVirtualPlayheadPresenter", function, message)
+MV_LOG_FILE("Src/MvTimeline/MvTimelineVirtualPlayheadPresenter");
 
 using namespace MVVBLMODEL;
 
@@ -37,8 +36,8 @@ void MvTimelineVirtualPlayheadPresenterPrivate::seekToCurrentFrame()
 void MvTimelineVirtualPlayheadPresenterPrivate::open()
 {
     Q_Q(MvTimelineVirtualPlayheadPresenter);
-    MV_VIRTUAL_PLAYHEAD_LOG(
-        MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenter::open", QStringLiteral("Open Virtual Playhead"));
+    MV_FUNCTION("MvTimelineVirtualPlayheadPresenter::open");
+    MV_LOG(MvBaseLog::Note, QStringLiteral("Open Virtual Playhead"));
     if (timelinePresenter) {
         timelinePresenter->pauseMediaPlayer();
         if (IMvTimeline* timeline = timelinePresenter->timeline())
@@ -56,8 +55,8 @@ void MvTimelineVirtualPlayheadPresenterPrivate::open()
 void MvTimelineVirtualPlayheadPresenterPrivate::close()
 {
     Q_Q(MvTimelineVirtualPlayheadPresenter);
-    MV_VIRTUAL_PLAYHEAD_LOG(
-        MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenter::close", QStringLiteral("Close Virtual Playhead"));
+    MV_FUNCTION("MvTimelineVirtualPlayheadPresenter::close");
+    MV_LOG(MvBaseLog::Note, QStringLiteral("Close Virtual Playhead"));
     opened = false;
     if (playhead)
         playhead->virtualClosed();
@@ -81,8 +80,8 @@ void MvTimelineVirtualPlayheadPresenterPrivate::setVisible(bool visible)
 void MvTimelineVirtualPlayheadPresenterPrivate::applyVisible(bool visible)
 {
     Q_Q(MvTimelineVirtualPlayheadPresenter);
-    MV_VIRTUAL_PLAYHEAD_LOG(MvBaseLog::Note, "MvTimelineVirtualPlayheadPresenterPrivate::setVisible",
-        QString::asprintf("Set Virtual Playhead Visible = %d", visible ? 1 : 0));
+    MV_FUNCTION("MvTimelineVirtualPlayheadPresenterPrivate::setVisible");
+    MV_LOG(MvBaseLog::Note, QString::asprintf("Set Virtual Playhead Visible = %d", visible ? 1 : 0));
     shown = visible;
     Q_EMIT q->sigVisibleChanged();
     if (!visible)

@@ -50,6 +50,12 @@ int MvBaseLog::minimumLevel() const
     return m_minimumLevel;
 }
 
+bool MvBaseLog::accepts(int level) const
+{
+    QMutexLocker lock(&m_mutex);
+    return level >= m_minimumLevel;
+}
+
 int MvBaseLog::addSink(Sink sink)
 {
     QMutexLocker lock(&m_mutex);

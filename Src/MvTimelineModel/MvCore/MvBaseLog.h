@@ -32,6 +32,8 @@ public:
 
     void setMinimumLevel(int level);
     int minimumLevel() const;
+    // Whether a record of this level would be kept: callers skip building messages that would not.
+    bool accepts(int level) const;
 
     // Sinks receive every record that passes the level filter; stderr is the one sink at start.
     int addSink(Sink sink);

@@ -1,5 +1,7 @@
 #include "MvCustomEvent.h"
 
+#include "MvBaseLog.h"
+
 MvCustomEventImp::MvCustomEventImp(const QString& name, const QVariantList& values) : m_name(name), m_values(values)
 {
 }
@@ -12,15 +14,18 @@ MvCustomEventDispatcher& MvCustomEventDispatcher::instance()
 
 bool MvCustomEventDispatcher::sendEvent(const MvCustomEventImp& event)
 {
-    // A handler may add or remove listeners; walk a copy and skip those removed meanwhile.
-    const QList<MvCustomEventListener*> listeners = m_listeners;
-    for (MvCustomEventListener* listener : listeners) {
-        if (!m_listeners.contains(listener) || listener->eventName() != event.name())
-            continue;
-        if (listener->handle(event))
-            return true;
+    return deliver(event, Filter());
+}
+
+bool MvCustomEventDispatcher::sendEvent(QSharedPointer<MvCustomEventImp> event, const Filter& filter)
+{
+    if (!event) {
+        MvBaseLog::defaultLogger()->log(MvBaseLog::Refusal, QStringLiteral("Src/MvCore/MvCustomEvent"), __LINE__,
+            QStringLiteral("MvCustomEventDispatcher::sendEvent"), QStringLiteral("event is null"));
+        return false;
     }
-    return false;
+    // `event` is our own reference: a handler that drops the sender's copy cannot free it mid-walk.
+    return deliver(*event, filter);
 }
 
 bool MvCustomEventDispatcher::sendEvent(const QString& name, const QVariantList& values)
@@ -36,6 +41,21 @@ int MvCustomEventDispatcher::listenerCount(const QString& name) const
             ++count;
     }
     return count;
+}
+
+bool MvCustomEventDispatcher::deliver(const MvCustomEventImp& event, const Filter& filter)
+{
+    // A handler may add or remove listeners; walk a copy and skip those removed meanwhile.
+    const QList<MvCustomEventListener*> listeners = m_listeners;
+    for (MvCustomEventListener* listener : listeners) {
+        if (!m_listeners.contains(listener) || listener->eventName() != event.name())
+            continue;
+        if (filter && !filter(listener))
+            continue;
+        if (listener->handle(event))
+            return true;
+    }
+    return false;
 }
 
 void MvCustomEventDispatcher::addListener(MvCustomEventListener* listener)

@@ -4,10 +4,19 @@
 
 #include <QList>
 #include <QObject>
+#include <QSharedPointer>
 #include <QString>
 #include <QVariantList>
 
 #include <functional>
+
+// Names of the application-wide events the timeline raises or listens for.
+namespace MvEventName {
+constexpr const char* ShowCustomToast = "ShowCustomToast";
+constexpr const char* NotifyAddSharedClipsAssetsToProjectMedia = "NotifyAddSharedClipsAssetsToProjectMedia";
+constexpr const char* NotifySwtichPropertView = "NotifySwtichPropertView";
+constexpr const char* NotifyAdjustPropertyTimeLine = "NotifyAdjustPropertyTimeLine";
+}
 
 // One application-wide notification: a name and its values, in the order the sender gives them.
 class MVCORE_EXPORT MvCustomEventImp
@@ -33,10 +42,18 @@ class MvCustomEventListener;
 class MVCORE_EXPORT MvCustomEventDispatcher
 {
 public:
+    // Asked once per listener of the event's name; true lets that listener receive the event.
+    using Filter = std::function<bool(const MvCustomEventListener*)>;
+
     static MvCustomEventDispatcher& instance();
 
+    // All three return true when a listener consumed the event.
     bool sendEvent(const MvCustomEventImp& event);
     bool sendEvent(const QString& name, const QVariantList& values = QVariantList());
+    // The sender hands the event over: the dispatcher keeps it alive while listeners run, and it
+    // goes away with the last owner. An empty filter lets every listener receive it; a null
+    // event is refused (false, logged).
+    bool sendEvent(QSharedPointer<MvCustomEventImp> event, const Filter& filter);
 
     int listenerCount(const QString& name) const;
 
@@ -45,6 +62,7 @@ private:
     MvCustomEventDispatcher() = default;
     void addListener(MvCustomEventListener* listener);
     void removeListener(MvCustomEventListener* listener);
+    bool deliver(const MvCustomEventImp& event, const Filter& filter);
 
     QList<MvCustomEventListener*> m_listeners;
 };

@@ -8,6 +8,8 @@
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
 
+#include <QSet>
+
 namespace {
 bool cuttable(const IMvClip* clip)
 {
@@ -36,9 +38,10 @@ QList<IMvClip*> IMvClipHelper::findClips(IMvTimeline* timeline, qint64 frame)
     const QList<IMvClip*> selected = timeline->selection() ? timeline->selection()->selectedClips() : QList<IMvClip*>();
     if (selected.isEmpty())
         return under;
+    const QSet<IMvClip*> underSet(under.cbegin(), under.cend());
     QList<IMvClip*> found;
     for (IMvClip* clip : selected) {
-        if (under.contains(clip))
+        if (underSet.contains(clip))
             found.append(clip);
     }
     return found;
@@ -47,9 +50,11 @@ QList<IMvClip*> IMvClipHelper::findClips(IMvTimeline* timeline, qint64 frame)
 QList<IMvClip*> IMvClipHelper::findPrepareSplitClip(QList<IMvClip*> clips, bool addPartners)
 {
     QList<IMvClip*> prepared;
+    QSet<IMvClip*> taken;
     for (IMvClip* clip : qAsConst(clips)) {
-        if (!cuttable(clip) || prepared.contains(clip))
+        if (!cuttable(clip) || taken.contains(clip))
             continue;
+        taken.insert(clip);
         prepared.append(clip);
         IMvTimeline* timeline = clip->ownerTimeline();
         if (!addPartners || clip->groupKind() != 1 || !timeline || !timeline->editService())
@@ -58,8 +63,10 @@ QList<IMvClip*> IMvClipHelper::findPrepareSplitClip(QList<IMvClip*> clips, bool 
         QList<IMvClip*> partners;
         timeline->editService()->groupMembersOf(clip, partners, false);
         for (IMvClip* partner : qAsConst(partners)) {
-            if (cuttable(partner) && !prepared.contains(partner))
+            if (cuttable(partner) && !taken.contains(partner)) {
+                taken.insert(partner);
                 prepared.append(partner);
+            }
         }
     }
     return prepared;

@@ -54,6 +54,11 @@ constexpr MvPlayState PlayState_Finished = 3;
 
 // Property panel group.
 using MvPropertyType = int;
+constexpr MvPropertyType PropertyType_None = 0;
+constexpr MvPropertyType PropertyType_Audio = 0x10;
+constexpr MvPropertyType PropertyType_Text = 0x10004;
+constexpr MvPropertyType PropertyType_Picture = 0x10008;
+constexpr MvPropertyType PropertyType_Sticker = 0x1000080;
 
 // Groups of keyframed properties.
 constexpr int PropertyGroup_Transform = 4096;
@@ -91,7 +96,7 @@ struct MvEffectPropertyBaseInfo
 namespace MessageId {
 constexpr int GroupQuestionBeforeSplit = 1010; // MvDataMessage; answer: QVariantList{bool proceed, bool ungroup}
 constexpr int SwitchPlayerToTimeline = 7005;   // MvDataMessage carrying the IMvTimeline*
-constexpr int EffectPasted = 7009;
+constexpr int AfterEffectPaste = 7009;         // bare id, sent after every effect paste
 constexpr int PausePlayer = 7012;              // bare id
 constexpr int StopPlayer = 7014;               // MvMessage
 constexpr int IsPlayerPlaying = 7033;          // MvQueryMessage
@@ -99,6 +104,13 @@ constexpr int PausePlayerWithSync = 7036;      // bare id
 constexpr int Seek = 7040;                     // MvSeekMessage
 constexpr int SeekAfterPause = 7041;           // MvSeekAfterPauseMessage
 constexpr int HidePropertyPanel = 9006;        // MvMessage
+constexpr int ShowPropertyPanelPage = 9007;    // MvDataMessage carrying the page (int); -1: the selection's page
+constexpr int ShowAdvancedSubtitleEditor = 9017; // MvDataMessage {true, arg}
+constexpr int ShowAdvancedTextEditor = 9018;     // MvDataMessage {true, arg}
+constexpr int ShowAdvancedColor = 9019;          // MvDataMessage carrying true
+constexpr int ShowAdvancedTitleEditor = 9020;    // MvDataMessage {true, arg}
+constexpr int EffectsDeleted = 9030;             // MvMessage
+constexpr int EffectsPasted = 9031;              // bare id
 constexpr int ShowPropertyPanel = 9040;        // MvPropertyPanelShowMessage2
 }
 

@@ -5,6 +5,11 @@
 #include <QHash>
 #include <QString>
 
+// Command ids of the shortcut table that the library shows in its tooltips.
+namespace MvCommandId {
+constexpr int SplitClips = 2001;
+}
+
 // The application's keyboard shortcut table: which scheme is active, and the text of the
 // shortcut bound to a command id ("Ctrl+B"), empty when none is bound.
 class MVWIDGETS_EXPORT IMvShortcutEditManager

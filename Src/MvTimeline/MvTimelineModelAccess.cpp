@@ -1,0 +1,86 @@
+#include "MvTimelineModelAccess_p.h"
+
+#include "IMvAbstractClip.h"
+#include "IMvMarker.h"
+#include "IMvSelection.h"
+#include "IMvTimeline.h"
+#include "IMvTimelinePlayhead.h"
+#include "MvRange.h"
+
+namespace MvModelAccess {
+
+IMvSelection* selection(const IMvTimeline* timeline)
+{
+    return timeline ? timeline->selection() : nullptr;
+}
+
+IMvTimelinePlayhead* playhead(const IMvTimeline* timeline)
+{
+    return timeline ? timeline->playhead() : nullptr;
+}
+
+IMvClipEditService* editService(const IMvTimeline* timeline)
+{
+    return timeline ? timeline->editService() : nullptr;
+}
+
+IMvUndoRedoService* undoService(const IMvTimeline* timeline)
+{
+    return timeline ? timeline->undoRedoService() : nullptr;
+}
+
+qint64 playheadFrame(const IMvTimeline* timeline)
+{
+    const IMvTimelinePlayhead* head = playhead(timeline);
+    return head ? head->currentFrame() : 0;
+}
+
+bool setPlayheadFrame(const IMvTimeline* timeline, qint64 frame)
+{
+    IMvTimelinePlayhead* head = playhead(timeline);
+    if (!head)
+        return false;
+    head->setCurrentFrame(frame);
+    return true;
+}
+
+QList<IMvClip*> selectedClips(const IMvTimeline* timeline)
+{
+    const IMvSelection* current = selection(timeline);
+    return current ? current->selectedClips() : QList<IMvClip*>();
+}
+
+QList<IMvAbstractClip*> selectedItems(const IMvTimeline* timeline)
+{
+    const IMvSelection* current = selection(timeline);
+    return current ? current->selectedItems() : QList<IMvAbstractClip*>();
+}
+
+bool selectClips(const IMvTimeline* timeline, const QList<IMvClip*>& clips)
+{
+    IMvSelection* current = selection(timeline);
+    if (!current)
+        return false;
+    current->select(clips);
+    return true;
+}
+
+IMvMarkerList* markerListAtPlayhead(const IMvTimeline* timeline, qint64 frame)
+{
+    if (!timeline)
+        return nullptr;
+    const IMvSelection* current = timeline->selection();
+    if (current && current->count() == 1 && !current->isTimelineSelected()) {
+        const QList<IMvClip*> clips = current->selectedClips();
+        IMvMarkerList* clipList = clips.isEmpty() || !clips.first() ? nullptr : clips.first()->clipMarkers();
+        if (!clipList)
+            return nullptr;
+        MvRange<qint64> range;
+        clipList->frameRange(range);
+        if (range.contains(frame))
+            return clipList;
+    }
+    return timeline->timelineMarkers();
+}
+
+} // namespace MvModelAccess

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "MvTimelineGlobal.h"
+
+#include <QList>
+
+class IMvAbstractClip;
+class IMvClip;
+class IMvClipEditService;
+class IMvMarkerList;
+class IMvSelection;
+class IMvTimeline;
+class IMvTimelinePlayhead;
+class IMvUndoRedoService;
+
+// What every presenter reads of its timeline, in one place. A null timeline (or a model without
+// the object asked for) answers null, empty or frame 0, so that a command refuses instead of crashing.
+namespace MvModelAccess {
+
+MVTIMELINE_TEST_EXPORT IMvSelection* selection(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT IMvTimelinePlayhead* playhead(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT IMvClipEditService* editService(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT IMvUndoRedoService* undoService(const IMvTimeline* timeline);
+
+// The frame under the playhead: the position of every command at the playhead.
+MVTIMELINE_TEST_EXPORT qint64 playheadFrame(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT bool setPlayheadFrame(const IMvTimeline* timeline, qint64 frame);
+
+MVTIMELINE_TEST_EXPORT QList<IMvClip*> selectedClips(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT QList<IMvAbstractClip*> selectedItems(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT bool selectClips(const IMvTimeline* timeline, const QList<IMvClip*>& clips);
+
+// The marker list a marker at the playhead belongs to, as adding a marker chooses it: the single
+// selected clip's list when the playhead lies on that clip (both ends included), the timeline's
+// list otherwise; null when the one selected item is not a clip or the clip keeps no markers.
+MVTIMELINE_TEST_EXPORT IMvMarkerList* markerListAtPlayhead(const IMvTimeline* timeline, qint64 frame);
+
+} // namespace MvModelAccess
