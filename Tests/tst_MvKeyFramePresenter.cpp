@@ -108,7 +108,7 @@ void tst_MvKeyFramePresenter::shortcut()
     clip->setEnabled(false);
     f.select({ audio, clip });
     f.setPlayhead(40);
-    QString before = f.snapshot();
+    const QString before = f.snapshot();
     f.journal.clear();
 
     // Plain audio takes no picture key frame, a disabled clip none at all.
@@ -118,19 +118,19 @@ void tst_MvKeyFramePresenter::shortcut()
 
     // One clip, off the playhead: the key frame goes onto its first frame and the playhead follows.
     clip->setEnabled(true);
-    before = f.snapshot();
+    f.keepState();
     QVERIFY(f.kf->addKeyFrame_ShortcutKey());
+    f.keepState();
     QCOMPARE(clip->keyFrames(false), QList<qint64>({ 0 }));
     QCOMPARE(f.playhead(), qint64(100));
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("add default key frame"));
 
     // Several clips: one step; one that cannot take a key frame fails the command, not the others.
     f.select({ clip, near, far });
     f.setPlayhead(150);
-    before = f.snapshot();
     QVERIFY(!f.kf->addKeyFrame_ShortcutKey());
-    QCOMPARE(clip->keyFrames(false) + near->keyFrames(false) + far->keyFrames(false), QList<qint64>({ 50, 30 }));
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("mult add default key frame"));
+    f.keepState();
+    QCOMPARE(clip->keyFrames(false) + near->keyFrames(false) + far->keyFrames(false), QList<qint64>({ 0, 50, 30 }));
+    QCOMPARE(f.walkUndo(), QStringLiteral("add default key frame, mult add default key frame"));
 }
 
 // Never from a text clip, and only in the main timeline.
@@ -190,7 +190,7 @@ void tst_MvKeyFramePresenter::editSelectedClipsKeyFrames()
     MvMemoryClip* clip = f.keyedClip();
     MvMemoryClip* other = f.keyedClip(ClipType_VideoWithAudio, 1);
     other->setEnabled(false);
-    QString before = f.snapshot();
+    const QString before = f.snapshot();
 
     // Nothing selected: each command refuses.
     QVERIFY(!f.kf->removeSelectedKeyFrame());
@@ -206,20 +206,19 @@ void tst_MvKeyFramePresenter::editSelectedClipsKeyFrames()
     QVERIFY(f.selector->currentSelection() == IMvKeyFrameSelector::MvSelectData({ clip, 1, { 10, 30 } }));
 
     f.selector->select({ clip, IMvKeyFrameSelector::VideoSide, { 30 } });
-    before = f.snapshot();
+    f.keepState();
     QVERIFY(f.kf->removeSelectedKeyFrame());
+    f.keepState();
     QCOMPARE(clip->keyFrames(false), QList<qint64>({ 10 }));
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("clear selected key frames"));
 
     // Clearing answers false when it cleared something, true when nothing was left.
-    before = f.snapshot();
     QVERIFY(!f.kf->clearAllVideoKeyFrames());
+    f.keepState();
     QVERIFY(clip->keyFrames(false).isEmpty());
     QCOMPARE(clip->keyFrames(true), QList<qint64>({ 20 }));
-    const QString cleared = f.snapshot();
     QVERIFY(f.kf->clearAllVideoKeyFrames());
-    QCOMPARE(f.snapshot(), cleared);
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("clear all key frames"));
+    f.keepState();
+    QCOMPARE(f.walkUndo(), QStringLiteral("clear selected key frames, clear all key frames"));
 }
 
 void tst_MvKeyFramePresenter::jumpBetweenKeyFrames()

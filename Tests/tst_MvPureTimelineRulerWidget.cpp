@@ -162,12 +162,14 @@ void tst_MvPureTimelineRulerWidget::wheelZoomsWithTheSchemeModifier_data()
     QTest::addColumn<int>("zoom"); // 0: the event is ignored
     const int ctrl = Qt::ControlModifier;
     QTest::newRow("ctrl notch up") << 0 << ctrl << QPoint() << QPoint(0, 120) << -15;
+    QTest::newRow("positive half rounds up") << 0 << ctrl << QPoint() << QPoint(0, 20) << -3;
     QTest::newRow("negative half rounds up") << 0 << ctrl << QPoint() << QPoint(0, -20) << 2;
     QTest::newRow("pixel delta wins") << 0 << ctrl << QPoint(0, 10) << QPoint(0, 120) << -10;
     QTest::newRow("plain wheel") << 0 << 0 << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("ctrl+shift is not ctrl") << 0 << (ctrl | int(Qt::ShiftModifier)) << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("scheme 2 ignores ctrl") << 2 << ctrl << QPoint() << QPoint(0, 120) << 0;
     QTest::newRow("scheme 2 alt is horizontal") << 2 << int(Qt::AltModifier) << QPoint() << QPoint(120, 0) << -15;
+    QTest::newRow("horizontal half rounds up") << 2 << int(Qt::AltModifier) << QPoint() << QPoint(20, 0) << -3;
 }
 
 void tst_MvPureTimelineRulerWidget::wheelZoomsWithTheSchemeModifier()

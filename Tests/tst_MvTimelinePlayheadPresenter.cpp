@@ -1,7 +1,10 @@
+#include "IMvSelection.h"
 #include "IMvTimelineRuler.h"
+#include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryPlayhead.h"
 #include "Memory/MvMemoryRuler.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvRecordingTimeline.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePresenter.h"
 
@@ -33,7 +36,7 @@ protected:
 // One 1000-frame clip at 1 px per frame, the playhead at 100 and a 400 x 200 view.
 struct Project
 {
-    MvMemoryTimeline timeline;
+    MvRecordingTimeline timeline;
     MvTimelinePresenter timelinePresenter { nullptr, &timeline };
     MvTimelinePlayheadPresenter presenter { &timelinePresenter, nullptr };
 
@@ -57,7 +60,9 @@ private Q_SLOTS:
     void splitButtonYIsClamped_data();
     void splitButtonYIsClamped();
     void statusResolution();
+    void modelEventsRepaint_data();
     void modelEventsRepaint();
+    void splitButtonSelectsThePieces();
     void registersWithPlayheadAndRulerAndLeaves();
     void presenterWithoutTimelineRefusesQuietly();
 };
@@ -131,20 +136,43 @@ void tst_MvTimelinePlayheadPresenter::statusResolution()
     QVERIFY(p.presenter.currentSplitButtonImage().isNull());
 }
 
-// Playhead events of kinds 1 and 100 and every ruler event ask for a repaint; kind 3 does not.
+void tst_MvTimelinePlayheadPresenter::modelEventsRepaint_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("repaint");
+    QTest::newRow("0 visible") << 0 << true;
+    QTest::newRow("1 enabled") << 1 << true;
+    QTest::newRow("2 moved") << 2 << true;
+    QTest::newRow("3 virtual playhead") << 3 << false;
+    QTest::newRow("99") << 99 << false;
+    QTest::newRow("100 split button shown") << 100 << true;
+    QTest::newRow("101 split button enabled") << 101 << true;
+    QTest::newRow("102") << 102 << false;
+}
+
+// Five playhead kinds ask for a repaint, and so does every ruler event.
 void tst_MvTimelinePlayheadPresenter::modelEventsRepaint()
 {
+    QFETCH(int, kind);
+    QFETCH(bool, repaint);
     Project p;
-    QSignalSpy repaint(&p.presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
-    IMvTimelinePlayhead* playhead = p.timeline.playhead();
-    playhead->virtualOpened();
-    QCOMPARE(repaint.count(), 0);
-    playhead->setEnabled(false);
-    QCOMPARE(repaint.count(), 1);
-    playhead->setSplitButtonVisible(false);
-    QCOMPARE(repaint.count(), 2);
+    QSignalSpy repaints(&p.presenter, &MvTimelinePlayheadPresenter::sigUpdateUI);
+    p.timeline.sendPlayheadEvent(kind);
+    QCOMPARE(repaints.count(), repaint ? 1 : 0);
     p.timeline.ruler()->setFrameRate(25, 1);
-    QCOMPARE(repaint.count(), 3);
+    QCOMPARE(repaints.count(), repaint ? 2 : 1);
+}
+
+// The split button cuts at the playhead and leaves the new pieces selected.
+void tst_MvTimelinePlayheadPresenter::splitButtonSelectsThePieces()
+{
+    Project p;
+    p.timeline.selection()->select({ p.timeline.liveClips().first() });
+    p.presenter.splitClips();
+    const QList<MvMemoryClip*> clips = p.timeline.liveClips();
+    QCOMPARE(clips.size(), 2);
+    QCOMPARE(clips.last()->start(), qint64(100));
+    QCOMPARE(p.timeline.selection()->selectedClips(), QList<IMvClip*>({ clips.last() }));
 }
 
 void tst_MvTimelinePlayheadPresenter::registersWithPlayheadAndRulerAndLeaves()

@@ -77,6 +77,10 @@ struct Fixture
         manager.addFilter(overlay);
         area.show();
         timeline.playhead()->setCurrentFrame(100);
+        QObject::connect(&presenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, &presenter,
+            [this] { drags.append(QStringLiteral("start")); });
+        QObject::connect(&presenter, &MvTimelinePlayheadPresenter::sigEndDragPlayHead, &presenter,
+            [this] { drags.append(QStringLiteral("end")); });
     }
     bool send(const Step& step)
     {
@@ -91,6 +95,7 @@ struct Fixture
         return manager.dispatchEvent(&event);
     }
     int splits() const { return timeline.liveClips().size() - 1; }
+    QStringList drags; // the head's drag signals, in order
 };
 
 const QPoint kButton(100, 84);
@@ -164,34 +169,41 @@ void tst_MvTimelinePlayheadWidget::gesture_data()
     const QPoint away(230, 150);
     const Steps click { { Press, kButton }, { Release, kButton } };
     const Steps drag { { Press, kButton }, { Move, moved }, { Release, moved } };
+    const Steps headDrag { { Press, kHead }, { Move, { 250, 60 } }, { Move, { 900, 5 } },
+        { Release, { 900, 5 }, false } };
     const Steps rightClickOnTheHead { { RightPress, kHead }, { RightRelease, kHead } };
     QTest::addColumn<Steps>("steps");
     QTest::addColumn<int>("splits");
     QTest::addColumn<QPoint>("playhead"); // x of the playhead, top of the split button
     QTest::addColumn<Status>("status");
-    QTest::newRow("drag over the button") << drag << 0 << QPoint(103, 67) << Status::Hover;
-    QTest::newRow("click after a drag") << drag + click << 1 << QPoint(103, 67) << Status::Hover;
-    QTest::newRow("head past the right edge")
-        << Steps { { Press, kHead }, { Move, { 250, 60 } }, { Move, { 900, 5 } }, { Release, { 900, 5 }, false } } << 0
-        << QPoint(400, 67) << Status::Normal;
+    QTest::addColumn<QString>("drags"); // the head's drag signals
+    QTest::newRow("drag over the button") << drag << 0 << QPoint(103, 67) << Status::Hover << "";
+    QTest::newRow("click after a drag") << drag + click << 1 << QPoint(103, 67) << Status::Hover << "";
+    QTest::newRow("head past the right edge") << headDrag << 0 << QPoint(400, 67) << Status::Normal << "start end";
+    QTest::newRow("head dragged, then the button clicked")
+        << headDrag + Steps { { Press, { 400, 84 } }, { Release, { 400, 84 } } } << 1 << QPoint(400, 67)
+        << Status::Hover << "start end";
     QTest::newRow("head past the left edge")
-        << Steps { { Press, kHead }, { Move, { -50, 5 } } } << 0 << QPoint(0, 67) << Status::Normal;
+        << Steps { { Press, kHead }, { Move, { -50, 5 } } } << 0 << QPoint(0, 67) << Status::Normal << "start";
     QTest::newRow("button top grabbed, below the view")
-        << Steps { { Press, { 100, 67 } }, { Move, { 150, 500 } } } << 0 << QPoint(150, 165) << Status::Pressed;
+        << Steps { { Press, { 100, 67 } }, { Move, { 150, 500 } } } << 0 << QPoint(150, 165) << Status::Pressed << "";
     QTest::newRow("button middle grabbed, below the view and back")
         << Steps { { Press, { 100, 80 } }, { Move, { 150, 500 } }, { Move, { 150, 100 } } } << 0 << QPoint(150, 87)
-        << Status::Pressed;
+        << Status::Pressed << "";
     QTest::newRow("left drag begun elsewhere") << Steps { { Press, kEmpty, false }, { Move, kButton, false },
         { Release, kButton, false }, { DoubleClick, kButton, false } }
-                                               << 0 << QPoint(100, 67) << Status::Normal;
-    QTest::newRow("hover over the button") << Steps { { Hover, kButton } } << 0 << QPoint(100, 67) << Status::Hover;
-    QTest::newRow("right click on the button follows") << Steps { { RightPress, kButton }, { RightRelease, kButton },
-        { Hover, away } } << 1 << QPoint(230, 133) << Status::Pressed;
+                                               << 0 << QPoint(100, 67) << Status::Normal << "";
+    QTest::newRow("hover over the button")
+        << Steps { { Hover, kButton } } << 0 << QPoint(100, 67) << Status::Hover << "";
+    QTest::newRow("right click on the button follows")
+        << Steps { { RightPress, kButton }, { RightRelease, kButton }, { Hover, away } } << 1 << QPoint(230, 133)
+        << Status::Pressed << "";
+    // Following is a drag that has not ended.
     QTest::newRow("right click on the head follows")
-        << rightClickOnTheHead + Steps { { Hover, away } } << 0 << QPoint(230, 67) << Status::Normal;
+        << rightClickOnTheHead + Steps { { Hover, away } } << 0 << QPoint(230, 67) << Status::Normal << "start";
     QTest::newRow("press elsewhere ends following")
         << rightClickOnTheHead + Steps { { Press, kEmpty, false }, { Move, away, false }, { Hover, away, false } } << 0
-        << QPoint(100, 67) << Status::Normal;
+        << QPoint(100, 67) << Status::Normal << "start";
 }
 
 void tst_MvTimelinePlayheadWidget::gesture()
@@ -200,12 +212,14 @@ void tst_MvTimelinePlayheadWidget::gesture()
     QFETCH(int, splits);
     QFETCH(QPoint, playhead);
     QFETCH(Status, status);
+    QFETCH(QString, drags);
     Fixture f;
     for (int i = 0; i < steps.size(); ++i)
         QVERIFY2(f.send(steps.at(i)) == steps.at(i).consumed, qPrintable(QStringLiteral("step %1").arg(i)));
     QCOMPARE(f.splits(), splits);
     QCOMPARE(QPoint(f.presenter.position(), f.presenter.splitButtonY()), playhead);
     QCOMPARE(f.presenter.splitButtonStatus(), status);
+    QCOMPARE(f.drags.join(QLatin1Char(' ')), drags);
 }
 
 void tst_MvTimelinePlayheadWidget::followModeAsksTheHostBeforeEveryMove()

@@ -3,6 +3,7 @@
 #include "Memory/MvMemoryEditService.h"
 #include "Memory/MvMemoryMarker.h"
 #include "MvEditFixture.h"
+#include "MvRecordingTimeline.h"
 #include "MvTimelineVirtualPlayheadPresenter.h"
 
 #include <QtTest>
@@ -172,22 +173,25 @@ void tst_MvTimelinePresenterClipEdit::deleteSelection_data()
     QTest::addColumn<bool>("ripple");
     QTest::addColumn<QString>("selection");
     QTest::addColumn<bool>("seekAfterDelete");
-    QTest::addColumn<QString>("journal");
+    QTest::addColumn<QString>("journal"); // with the frame asked of the playhead, which the model would clamp
     QTest::addColumn<qint64>("playhead");
     QTest::addColumn<QString>("step"); // empty when refused
 
     // Announced, then the player paused in sync, then the model edited.
-    const char* journal = "model:beginDelete scene:7036 model:deleteClips";
-    QTest::newRow("to the earliest clip") << false << "late,early" << true << journal << qint64(40) << "delete clips";
-    QTest::newRow("to the end of a shorter timeline")
-        << false << "late,early,tail" << true << journal << qint64(30) << "delete clips";
+    const QString deleted = QStringLiteral("model:beginDelete scene:7036 model:deleteClips");
+    QTest::newRow("to the earliest clip")
+        << false << "late,early" << true << deleted + QStringLiteral(" playhead:setCurrentFrame 40") << qint64(40)
+        << "delete clips";
+    QTest::newRow("to the end of a timeline now shorter than the earliest start")
+        << false << "late,early,tail" << true << deleted + QStringLiteral(" playhead:setCurrentFrame 30") << qint64(30)
+        << "delete clips";
     QTest::newRow("nowhere when the model says so")
-        << false << "late,early" << false << journal << qint64(180) << "delete clips";
+        << false << "late,early" << false << deleted << qint64(180) << "delete clips";
     QTest::newRow("a lone transition, alone")
         << false << "transition" << true << "scene:7012 model:removeTransition" << qint64(180) << "remove transition";
     QTest::newRow("ripple: to the first selected clip")
-        << true << "late,early" << false << "scene:7012 model:rippleDeleteClips scene:9006" << qint64(100)
-        << "ripple delete clips";
+        << true << "late,early" << false << "scene:7012 model:rippleDeleteClips playhead:setCurrentFrame 100 scene:9006"
+        << qint64(100) << "ripple delete clips";
     QTest::newRow("ripple without clips") << true << "transition" << false << "" << qint64(180) << "";
 }
 
@@ -200,7 +204,7 @@ void tst_MvTimelinePresenterClipEdit::deleteSelection()
     QFETCH(qint64, playhead);
     QFETCH(QString, step);
 
-    MvEditFixture<> f;
+    MvEditFixture<MvRecordingTimeline> f;
     const QMap<QString, MvMemoryClip*> clips { { QStringLiteral("head"), f.clip(0, 0, 29) },
         { QStringLiteral("late"), f.clip(0, 100, 149) }, { QStringLiteral("early"), f.clip(1, 40, 59) },
         { QStringLiteral("tail"), f.clip(1, 300, 399) } };
@@ -254,11 +258,13 @@ void tst_MvTimelinePresenterClipEdit::deleteKeyTakesTheMostSpecificItemFirst()
     };
 
     // One press removes one item: the gap, a key frame, a marker, a freeze frame, then the clips.
+    f.keepState();
     f.presenter->setActionEnabled(false);
     for (int pressed = 1; pressed <= 4; ++pressed) {
         // With actions off, only the gap, a key frame or a marker make the Delete key available.
         QCOMPARE(f.presenter->canDeleteItems(), pressed <= 3);
         QVERIFY(f.presenter->deleteItems(true));
+        f.keepState();
         QCOMPARE(left(), QVector<bool>(pressed, false).toList() + QVector<bool>(4 - pressed, true).toList());
     }
     QCOMPARE(gapRequests, QList<bool>({ true }));
@@ -274,7 +280,10 @@ void tst_MvTimelinePresenterClipEdit::deleteKeyTakesTheMostSpecificItemFirst()
 
     f.presenter->setActionEnabled(true);
     QVERIFY(f.presenter->deleteItems(true));
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("delete clips"));
+    f.keepState();
+    QVERIFY(!clip->isOnTimeline());
+    QCOMPARE(
+        f.walkUndo(), QStringLiteral("clear selected key frames, remove marker, remove freeze frame, delete clips"));
 }
 
 QTEST_MAIN(tst_MvTimelinePresenterClipEdit)

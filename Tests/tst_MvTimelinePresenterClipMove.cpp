@@ -1,6 +1,7 @@
 #include "IMvTrack.h"
 #include "Memory/MvMemoryTrack.h"
 #include "MvEditFixture.h"
+#include "MvRecordingTimeline.h"
 
 #include <QtTest>
 
@@ -8,15 +9,15 @@ using namespace MVVBLMODEL;
 
 namespace {
 // Notes in the journal what the action switch says while the model moves clips.
-class WatchedTimeline : public MvMemoryTimeline
+class WatchedTimeline : public MvRecordingTimeline
 {
 public:
-    using MvMemoryTimeline::MvMemoryTimeline;
+    using MvRecordingTimeline::MvRecordingTimeline;
     const MvTimelinePresenter* presenter = nullptr;
     bool moveClips(QList<IMvClip*> clips, QList<int> offsets, qint64 frameOffset, int mode) override
     {
-        journal()->record(QStringLiteral("canUpdateAction:%1").arg(presenter->canUpdateAction()));
-        return MvMemoryTimeline::moveClips(clips, offsets, frameOffset, mode);
+        note(QStringLiteral("canUpdateAction:%1").arg(presenter->canUpdateAction()));
+        return MvRecordingTimeline::moveClips(clips, offsets, frameOffset, mode);
     }
 };
 
@@ -31,56 +32,15 @@ public:
         connect(this, &MvTimelinePresenter::sigActionStatusChanged, this, [this] { note("sigActionStatusChanged"); });
     }
     void updateAction() override { note("updateAction"); }
-    void note(const char* what) { static_cast<WatchedTimeline*>(timeline())->journal()->record(QLatin1String(what)); }
+    void note(const char* what) { static_cast<WatchedTimeline*>(timeline())->note(QLatin1String(what)); }
 };
 
 using Fixture = MvEditFixture<WatchedTimeline, WatchedPresenter>;
 
-// A move pauses the player, holds the action refresh while the model works, then refreshes once.
-const QString MoveJournal
-    = QStringLiteral("scene:7012 canUpdateAction:0 model:moveClips updateAction sigActionStatusChanged");
-}
-
-class tst_MvTimelinePresenterClipMove : public QObject
+// Clips of 50 frames from "kind row@start" items: "picture0@50,follower1@30". A follower tracks every
+// selected clip set up before it and is not selected itself; "lock1" locks row 1.
+QList<IMvClip*> setUp(Fixture& f, const QString& setup, QList<MvMemoryClip*>* clips)
 {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void move_data();
-    void move();
-    void firstSelectedClipAndItsStart();
-    void commandsWithoutATimelineRefuse();
-};
-
-void tst_MvTimelinePresenterClipMove::move_data()
-{
-    // Clips of 50 frames as kind, row and @start frame; a follower tracks the first clip and is not selected.
-    QTest::addColumn<QString>("setup");
-    QTest::addColumn<char>("axis"); // 'h' to move by frames, 'v' by rows
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<QString>("after"); // row@start of each clip; as set up when refused
-
-    const QString following = QStringLiteral("picture0@50,follower1@30");
-    QTest::newRow("right") << following << 'h' << 10 << "0@60 1@40";
-    QTest::newRow("left past frame 0: the earliest lands on 0") << following << 'h' << -50 << "0@20 1@0";
-    QTest::newRow("left at frame 0 already") << "picture0@20,follower1@0" << 'h' << -50 << "0@20 1@0";
-    QTest::newRow("no offset") << following << 'h' << 0 << "0@50 1@30";
-    QTest::newRow("picture first: audio opposite") << "picture0@0,audio3@0" << 'v' << 1 << "1@0 2@0";
-    QTest::newRow("audio first: picture opposite") << "audio2@0,picture1@0" << 'v' << 1 << "3@0 0@0";
-    QTest::newRow("audio stays below the last row") << "audio3@0,picture1@0" << 'v' << 1 << "3@0 0@0";
-    QTest::newRow("picture above the first row") << "picture0@0" << 'v' << -1 << "0@0";
-    QTest::newRow("locked target row") << "picture0@0,lock1" << 'v' << 1 << "0@0";
-}
-
-void tst_MvTimelinePresenterClipMove::move()
-{
-    QFETCH(QString, setup);
-    QFETCH(char, axis);
-    QFETCH(int, offset);
-    QFETCH(QString, after);
-
-    Fixture f;
-    QList<MvMemoryClip*> clips;
     QList<IMvClip*> selected;
     for (const QString& item : setup.split(QLatin1Char(','))) {
         const int row = item.section(QLatin1Char('@'), 0, 0).right(1).toInt();
@@ -90,20 +50,83 @@ void tst_MvTimelinePresenterClipMove::move()
             continue;
         }
         const MvClipType type = item.startsWith(QLatin1String("audio")) ? ClipType_Audio : ClipType_Video;
-        clips.append(f.clip(row, start, start + 49, type));
-        if (item.startsWith(QLatin1String("follower")))
-            clips.first()->setMotionTrackFollower(clips.last());
-        else
-            selected.append(clips.last());
+        clips->append(f.clip(row, start, start + 49, type));
+        if (!item.startsWith(QLatin1String("follower"))) {
+            selected.append(clips->last());
+            continue;
+        }
+        for (IMvClip* leader : qAsConst(selected))
+            static_cast<MvMemoryClip*>(leader)->setMotionTrackFollower(clips->last());
     }
+    f.select(selected);
+    return selected;
+}
+}
+
+class tst_MvTimelinePresenterClipMove : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void move_data();
+    void move();
+    void movesWalkBackAndForth();
+    void firstSelectedClipAndItsStart();
+    void commandsWithoutATimelineRefuse();
+};
+
+void tst_MvTimelinePresenterClipMove::move_data()
+{
+    QTest::addColumn<QString>("setup");
+    QTest::addColumn<char>("axis"); // 'h' to move by frames, 'v' by rows
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QString>("asked"); // of the model's move: clips, row offsets, frames; empty when refused
+    QTest::addColumn<QString>("after"); // row@start of each clip
+
+    const QString following = QStringLiteral("picture0@50,follower1@30");
+    const QString sharing = QStringLiteral("picture0@100,picture0@200,follower0@30");
+    QTest::newRow("right") << following << 'h' << 10 << "c0 c1 rows 0 0 by 10"
+                           << "0@60 1@40";
+    QTest::newRow("left past frame 0: the earliest lands on 0") << following << 'h' << -50 << "c0 c1 rows 0 0 by -30"
+                                                                << "0@20 1@0";
+    QTest::newRow("left at frame 0 already") << "picture0@20,follower1@0" << 'h' << -50 << ""
+                                             << "0@20 1@0";
+    QTest::newRow("no offset") << following << 'h' << 0 << ""
+                               << "0@50 1@30";
+    QTest::newRow("a follower shared by two moves once") << sharing << 'h' << 10 << "c0 c1 c2 rows 0 0 0 by 10"
+                                                         << "0@110 0@210 0@40";
+    QTest::newRow("a follower shared by two moves once, by rows") << sharing << 'v' << 1 << "c0 c1 c2 rows 1 1 1 by 0"
+                                                                  << "1@100 1@200 1@30";
+    QTest::newRow("picture first: audio opposite") << "picture0@0,audio3@0" << 'v' << 1 << "c0 c1 rows 1 -1 by 0"
+                                                   << "1@0 2@0";
+    QTest::newRow("audio first: picture opposite") << "audio2@0,picture1@0" << 'v' << 1 << "c0 c1 rows 1 -1 by 0"
+                                                   << "3@0 0@0";
+    QTest::newRow("audio stays below the last row") << "audio3@0,picture1@0" << 'v' << 1 << "c0 c1 rows 0 -1 by 0"
+                                                    << "3@0 0@0";
+    QTest::newRow("picture above the first row") << "picture0@0" << 'v' << -1 << ""
+                                                 << "0@0";
+    QTest::newRow("locked target row") << "picture0@0,lock1" << 'v' << 1 << ""
+                                       << "0@0";
+}
+
+void tst_MvTimelinePresenterClipMove::move()
+{
+    QFETCH(QString, setup);
+    QFETCH(char, axis);
+    QFETCH(int, offset);
+    QFETCH(QString, asked);
+    QFETCH(QString, after);
+
+    Fixture f;
+    QList<MvMemoryClip*> clips;
+    const QList<IMvClip*> selected = setUp(f, setup, &clips);
     const auto positions = [&clips] {
         QStringList text;
         for (const MvMemoryClip* clip : clips)
             text.append(QStringLiteral("%1@%2").arg(clip->trackIndex()).arg(clip->start()));
         return text.join(QLatin1Char(' '));
     };
-    const bool moves = positions() != after;
-    f.select(selected);
+    const bool moves = !asked.isEmpty();
     const QString before = f.snapshot();
     f.journal.clear();
 
@@ -115,12 +138,33 @@ void tst_MvTimelinePresenterClipMove::move()
     const QString function = QStringLiteral("MvTimelinePresenterPrivate::moveClips%1")
                                  .arg(horizontal ? QLatin1String("Horizontal") : QLatin1String("Vertical"));
     QCOMPARE(mvCheckRecord(f.log, record.arg(offset), 4, function), QString());
-    QCOMPARE(f.journalText(), moves ? MoveJournal : QString());
+    // Paused, the action refresh held while the model moves each clip once, the selection given back
+    // as it was (followers not added), then one refresh.
+    const QString journal
+        = QStringLiteral("scene:7012 canUpdateAction:0 moveClips %1 model:moveClips selection:select %2 "
+                         "updateAction sigActionStatusChanged")
+              .arg(asked, f.timeline.clipNames(selected));
+    QCOMPARE(f.journalText(), moves ? journal : QString());
     QVERIFY(f.presenter->canUpdateAction());
     QCOMPARE(positions(), after);
-    // The selection as it was: followers are not added.
-    QCOMPARE(f.timeline.selection()->selectedClips(), selected);
     QCOMPARE(f.undoOneStep(before), moves ? QStringLiteral("move clips") : QString());
+}
+
+void tst_MvTimelinePresenterClipMove::movesWalkBackAndForth()
+{
+    Fixture f;
+    QList<MvMemoryClip*> clips;
+    setUp(f, QStringLiteral("picture0@100,audio3@100,follower0@40"), &clips);
+    f.keepState();
+    for (const QPair<char, int>& move :
+        QList<QPair<char, int>> { { 'h', 25 }, { 'v', 1 }, { 'h', -500 }, { 'h', 0 }, { 'v', -1 } }) {
+        const bool moved = move.first == 'h' ? f.presenter->moveClipsHorizontal(move.second)
+                                             : f.presenter->moveClipsVertical(move.second);
+        QCOMPARE(moved, move.second != 0);
+        f.keepState();
+    }
+    QCOMPARE(clips.first()->start(), qint64(60));
+    QCOMPARE(f.walkUndo(), QStringLiteral("move clips, move clips, move clips, move clips"));
 }
 
 void tst_MvTimelinePresenterClipMove::firstSelectedClipAndItsStart()

@@ -17,8 +17,8 @@ class HostPresenter : public MvTimelinePresenter
 {
 public:
     using MvTimelinePresenter::MvTimelinePresenter;
-    using MvTimelinePresenter::stopMediaPlayer;
     using MvTimelinePresenter::seekAfterPause;
+    using MvTimelinePresenter::stopMediaPlayer;
     int refreshes = 0;
     int normalHeight = 70;
 
@@ -41,19 +41,15 @@ class tst_MvTimelinePresenterFrame : public QObject
 
 private Q_SLOTS:
     void clearFixedTrackKeepsTheOtherFields();
-    void configurationCopiesEveryField();
     void modeChangeSignalsOnlyOnDifference();
     void actionEnabledSignalsOnlyOnDifference();
     void updateActionEnabledSignalsOnlyWhenSwitchedOn();
     void trackHeightByPolicy_data();
     void trackHeightByPolicy();
-    void unknownPolicyFallsBackThroughTheOverride();
     void playerCouplingSendsItsMessages();
     void playingQueryReadsTheSceneAnswer();
-    void hiddenPlaceholderIsNotDeleted();
-    void placeholderWithoutReceiverStaysVisible();
-    void placeholderDeletedByReceiver();
-    void placeholderRectangleNarrowsTo32Bits();
+    void placeholderIsDeletedByItsReceiver_data();
+    void placeholderIsDeletedByItsReceiver();
     void adjustTrackHeightUsesTheOverride();
     void adjustTrackHeightIgnoresAMissingTrack();
     void emptyCapNeedsAGapBetweenSelectedClipsOfOneTrack_data();
@@ -94,34 +90,11 @@ void tst_MvTimelinePresenterFrame::clearFixedTrackKeepsTheOtherFields()
     MvTimelinePresenter presenter(nullptr, nullptr);
     auto* config = presenter.config();
     QCOMPARE(config->fixedTrackCount(), 2);
+    const MvTimelinePresenter::MvTimelineViewConfig before = *config;
     config->clearFixedTrack();
     QCOMPARE(config->fixedTrackCount(), 0);
-    QCOMPARE(int(config->sizeParam), 55);
-    QCOMPARE(config->widthParam, 128);
-    QVERIFY(config->flagFirst);
-    QVERIFY(!config->flagSecond);
-}
-
-void tst_MvTimelinePresenterFrame::configurationCopiesEveryField()
-{
-    MvTimelinePresenter::MvTimelineViewConfig source;
-    source.fixedTrackCountFirst = 3;
-    source.fixedTrackCountSecond = 250;
-    source.sizeParam = 1;
-    source.widthParam = 7;
-    source.flagFirst = false;
-    source.flagSecond = true;
-    MvTimelinePresenter::MvTimelineViewConfig copy;
-    copy = source;
-    MvTimelinePresenter::MvTimelineViewConfig moved;
-    moved = std::move(source);
-    for (const auto* c : { &copy, &moved }) {
-        QCOMPARE(c->fixedTrackCount(), 253);
-        QCOMPARE(int(c->sizeParam), 1);
-        QCOMPARE(c->widthParam, 7);
-        QVERIFY(!c->flagFirst);
-        QVERIFY(c->flagSecond);
-    }
+    QCOMPARE(QList<int>({ int(config->sizeParam), config->widthParam, config->flagFirst, config->flagSecond }),
+        QList<int>({ int(before.sizeParam), before.widthParam, before.flagFirst, before.flagSecond }));
 }
 
 void tst_MvTimelinePresenterFrame::modeChangeSignalsOnlyOnDifference()
@@ -166,28 +139,25 @@ void tst_MvTimelinePresenterFrame::updateActionEnabledSignalsOnlyWhenSwitchedOn(
 void tst_MvTimelinePresenterFrame::trackHeightByPolicy_data()
 {
     QTest::addColumn<int>("policy");
+    QTest::addColumn<int>("normal"); // the host's height for policy 1
     QTest::addColumn<int>("height");
-    QTest::newRow("small") << 0 << 32;
-    QTest::newRow("normal") << 1 << 70;
-    QTest::newRow("large") << 2 << 160;
-    QTest::newRow("unknown") << 7 << 70;
-    QTest::newRow("negative") << -1 << 70;
+    QTest::newRow("small") << 0 << 70 << 32;
+    QTest::newRow("normal") << 1 << 70 << 70;
+    QTest::newRow("large") << 2 << 70 << 160;
+    QTest::newRow("unknown") << 7 << 70 << 70;
+    QTest::newRow("negative") << -1 << 70 << 70;
+    QTest::newRow("unknown, through the host's normal") << 7 << 88 << 88;
+    QTest::newRow("large, whatever the host's normal") << 2 << 88 << 160;
 }
 
 void tst_MvTimelinePresenterFrame::trackHeightByPolicy()
 {
     QFETCH(int, policy);
+    QFETCH(int, normal);
     QFETCH(int, height);
     HostPresenter presenter(nullptr, nullptr);
+    presenter.normalHeight = normal;
     QCOMPARE(presenter.heightOf(policy), height);
-}
-
-void tst_MvTimelinePresenterFrame::unknownPolicyFallsBackThroughTheOverride()
-{
-    HostPresenter presenter(nullptr, nullptr);
-    presenter.normalHeight = 88;
-    QCOMPARE(presenter.heightOf(7), 88);
-    QCOMPARE(presenter.heightOf(2), 160);
 }
 
 void tst_MvTimelinePresenterFrame::playerCouplingSendsItsMessages()
@@ -225,46 +195,41 @@ void tst_MvTimelinePresenterFrame::playingQueryReadsTheSceneAnswer()
     QCOMPARE(scene.count(7033), 2);
 }
 
-void tst_MvTimelinePresenterFrame::hiddenPlaceholderIsNotDeleted()
+void tst_MvTimelinePresenterFrame::placeholderIsDeletedByItsReceiver_data()
 {
-    MvTimelinePresenter presenter(nullptr, nullptr);
-    QSignalSpy spy(&presenter, &MvTimelinePresenter::sigDeleteEmptyClipItem);
-    QVERIFY(!presenter.emptyClipItemVisible());
-    QVERIFY(!presenter.deleteEmptyClipItem(true));
-    QCOMPARE(spy.count(), 0);
+    QTest::addColumn<int>("width"); // of the placeholder shown; -1 when none is
+    QTest::addColumn<bool>("receiverHides");
+    QTest::addColumn<bool>("arg");
+    QTest::addColumn<QString>("notes"); // state changes and delete requests, in order
+    QTest::addColumn<bool>("deleted");
+    QTest::newRow("hidden: nothing to delete") << -1 << true << true << "" << false;
+    QTest::newRow("no width: nothing to delete") << 0 << true << true << "shown" << false;
+    QTest::newRow("no receiver: still there") << 30 << false << false << "shown delete(0)" << false;
+    QTest::newRow("the receiver takes it away") << 30 << true << true << "shown delete(1) hidden" << true;
 }
 
-void tst_MvTimelinePresenterFrame::placeholderWithoutReceiverStaysVisible()
+void tst_MvTimelinePresenterFrame::placeholderIsDeletedByItsReceiver()
 {
+    QFETCH(int, width);
+    QFETCH(bool, receiverHides);
+    QFETCH(bool, arg);
+    QFETCH(QString, notes);
+    QFETCH(bool, deleted);
     MvTimelinePresenter presenter(nullptr, nullptr);
-    QSignalSpy state(&presenter, &MvTimelinePresenter::sigEmptyClipItemStateChanged);
-    presenter.showEmptyClip(10, 20, 30, 40);
-    QCOMPARE(state.count(), 1);
-    QCOMPARE(state.first().first().toBool(), true);
-    QSignalSpy spy(&presenter, &MvTimelinePresenter::sigDeleteEmptyClipItem);
-    QVERIFY(!presenter.deleteEmptyClipItem(false));
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.first().first().toBool(), false);
-    QVERIFY(presenter.emptyClipItemVisible());
-}
-
-void tst_MvTimelinePresenterFrame::placeholderDeletedByReceiver()
-{
-    MvTimelinePresenter presenter(nullptr, nullptr);
-    connect(&presenter, &MvTimelinePresenter::sigDeleteEmptyClipItem, &presenter,
-        [&presenter](bool) { presenter.hideEmptyClip(); });
-    presenter.showEmptyClip(0, 0, 5, 5);
-    QVERIFY(presenter.deleteEmptyClipItem(true));
-    QCOMPARE(presenter.emptyClipRect(), QRect(0, 0, 0, 0));
-}
-
-void tst_MvTimelinePresenterFrame::placeholderRectangleNarrowsTo32Bits()
-{
-    MvTimelinePresenter presenter(nullptr, nullptr);
-    presenter.showEmptyClip(Q_INT64_C(0x100000005), 7, 3, 4);
-    QCOMPARE(presenter.emptyClipRect(), QRect(5, 7, 3, 4));
-    presenter.showEmptyClip(1, 1, 0, 4);
-    QVERIFY(!presenter.emptyClipItemVisible());
+    QStringList seen;
+    connect(&presenter, &MvTimelinePresenter::sigEmptyClipItemStateChanged, &presenter,
+        [&seen](bool visible) { seen.append(visible ? QStringLiteral("shown") : QStringLiteral("hidden")); });
+    connect(&presenter, &MvTimelinePresenter::sigDeleteEmptyClipItem, &presenter, [&](bool value) {
+        seen.append(QStringLiteral("delete(%1)").arg(int(value)));
+        if (receiverHides)
+            presenter.hideEmptyClip();
+    });
+    if (width >= 0)
+        presenter.showEmptyClip(10, 20, width, 40);
+    QCOMPARE(presenter.emptyClipItemVisible(), width > 0);
+    QCOMPARE(presenter.deleteEmptyClipItem(arg), deleted);
+    QCOMPARE(seen.join(QLatin1Char(' ')), notes);
+    QCOMPARE(presenter.emptyClipItemVisible(), width > 0 && !deleted);
 }
 
 void tst_MvTimelinePresenterFrame::adjustTrackHeightUsesTheOverride()
@@ -348,7 +313,8 @@ void tst_MvTimelinePresenterFrame::playerIsSwitchedOnlyToTheMainTimeline()
     presenter.switchPlayer();
     QCOMPARE(scene.count(7005), messages);
     if (messages)
-        QCOMPARE(scene.entries().first().payload.value<void*>(), static_cast<void*>(static_cast<IMvTimeline*>(&timeline)));
+        QCOMPARE(
+            scene.entries().first().payload.value<void*>(), static_cast<void*>(static_cast<IMvTimeline*>(&timeline)));
 }
 
 void tst_MvTimelinePresenterFrame::propertyPanelHidesOnlyWhereNoVirtualPlayheadIsAllowed()

@@ -1,5 +1,6 @@
 #include "IMvMarker.h"
 #include "MvEditFixture.h"
+#include "MvRecordingTimeline.h"
 
 #include <QtTest>
 
@@ -18,6 +19,14 @@ QString markers(const IMvClip* clip, const IMvTimeline& timeline)
     }
     return lists.join(QLatin1String(" | "));
 }
+
+// A host presenter that reads the freeze-frame length its new freeze frames get.
+class HostPresenter : public MvTimelinePresenter
+{
+public:
+    using MvTimelinePresenter::MvTimelinePresenter;
+    qint64 defaultFreezeFrameDuration() { return getDefaultFreezeFrameDuration(); }
+};
 }
 
 class tst_MvTimelinePresenterItems : public QObject
@@ -31,6 +40,7 @@ private Q_SLOTS:
     void rotate();
     void removeSelectedFreezeFrame();
     void removeSelectedSmartKeyingNode();
+    void itemCommandsWalkBackAndForth();
 };
 
 void tst_MvTimelinePresenterItems::addMarkerPicksItsList_data()
@@ -120,17 +130,16 @@ void tst_MvTimelinePresenterItems::rotate()
     // The current item only.
     f.select({ clip, other });
     const QString before = f.snapshot();
-    f.presenter->rotate90CW();
-    QCOMPARE(QList<int>({ clip->rotation(), other->rotation() }), QList<int>({ 90, 0 }));
-    QCOMPARE(f.undoOneStep(before), QStringLiteral("rotate clip"));
     f.presenter->rotate90CCW();
-    QCOMPARE(clip->rotation(), 270);
+    QCOMPARE(QList<int>({ clip->rotation(), other->rotation() }), QList<int>({ 270, 0 }));
     QCOMPARE(f.undoOneStep(before), QStringLiteral("rotate clip"));
 }
 
 void tst_MvTimelinePresenterItems::removeSelectedFreezeFrame()
 {
-    MvEditFixture<> f;
+    MvEditFixture<MvRecordingTimeline, HostPresenter> f;
+    // What a host inserts when it makes a freeze frame, unless it says otherwise.
+    QCOMPARE(f.presenter->defaultFreezeFrameDuration(), qint64(125));
     MvMemoryClip* clip = f.clip(0, 0, 99);
     MvMemoryClip* other = f.clip(1, 0, 99);
     clip->addFreezeFrame(7, 10);
@@ -148,11 +157,12 @@ void tst_MvTimelinePresenterItems::removeSelectedFreezeFrame()
     QCOMPARE(f.withoutView(f.snapshot()), f.withoutView(before));
 
     f.timeline.subItemSelection()->select(7);
+    f.journal.clear();
     QVERIFY(f.presenter->removeSelectedFreezeFrame());
+    // The selection never names a freeze frame that is gone, not even while it goes.
+    QCOMPARE(f.journalText(), QStringLiteral("subItems:clear model:removeFreezeFrame"));
     QVERIFY(!clip->freezeFrames()->contains(7));
     QVERIFY(other->freezeFrames()->contains(8));
-    int id = -1;
-    QVERIFY(!f.timeline.subItemSelection()->selectedId(id));
     QCOMPARE(f.undoOneStep(before), QStringLiteral("remove freeze frame"));
 }
 
@@ -174,6 +184,36 @@ void tst_MvTimelinePresenterItems::removeSelectedSmartKeyingNode()
     QVERIFY(f.presenter->removeSelectedSmartKeyingNode());
     QCOMPARE(clip->smartKeyingNodes()->count(), 2);
     QCOMPARE(f.undoOneStep(before), QStringLiteral("remove smart keying node"));
+}
+
+void tst_MvTimelinePresenterItems::itemCommandsWalkBackAndForth()
+{
+    MvEditFixture<> f;
+    MvMemoryClip* clip = f.clip(0, 100, 199);
+    clip->addFreezeFrame(7, 10);
+    clip->setSmartKeyingNodeCount(2);
+    f.select({ clip });
+    f.setPlayhead(150);
+    f.keepState();
+    f.presenter->addMarker(Qt::green); // onto the clip
+    f.keepState();
+    f.presenter->rotate90CW();
+    f.keepState();
+    f.presenter->rotate90CW();
+    f.keepState();
+    f.timeline.markerModel()->setSelectedMarker(clip->clipMarkers()->markerAt(50));
+    QVERIFY(f.presenter->removeSelectedMarker());
+    f.keepState();
+    f.timeline.subItemSelection()->select(7);
+    QVERIFY(f.presenter->removeSelectedFreezeFrame());
+    f.keepState();
+    clip->smartKeyingNodes()->setSelectedIndex(0);
+    QVERIFY(f.presenter->removeSelectedSmartKeyingNode());
+    f.keepState();
+    QCOMPARE(clip->rotation(), 180);
+    QCOMPARE(f.walkUndo(),
+        QStringLiteral("add marker, rotate clip, rotate clip, remove marker, remove freeze frame, "
+                       "remove smart keying node"));
 }
 
 QTEST_MAIN(tst_MvTimelinePresenterItems)

@@ -1,8 +1,8 @@
 #include "IMvEventFilter.h"
 #include "IMvTimelinePlayhead.h"
-#include "MvEventFilterManager.h"
 #include "Memory/MvMemoryRuler.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvEventFilterManager.h"
 #include "MvRulerGesture_p.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRulerPresenter.h"
@@ -23,12 +23,19 @@ public:
     QList<qint64> menuAt;
 };
 
+// Counts its inits and notes every x the widget hands on for the playhead.
 class CountingRulerPresenter : public MvTimelineRulerPresenter
 {
 public:
     using MvTimelineRulerPresenter::MvTimelineRulerPresenter;
     void init() override { ++inits; }
+    void changePlayheadPosition(int x) override
+    {
+        positions.append(x);
+        MvTimelineRulerPresenter::changePlayheadPosition(x);
+    }
     int inits = 0;
+    QList<int> positions;
 };
 
 class CountingRulerWidget : public MvTimelineRulerWidget
@@ -125,7 +132,10 @@ void tst_MvTimelineRulerWidget::gesturesGoThroughThePresenter()
 
     m_f->ruler->setVisualRange(600, 1200); // a frame a pixel, the handle still at 300
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, QPoint(294, 5));
+    moveWithLeftButton(widget, QPoint(kWidth + 50, 5));
     moveWithLeftButton(widget, QPoint(-20, 5));
+    // The handle stays on the widget: the presenter gets its edges, whatever the model would make of more.
+    QCOMPARE(m_f->presenter.positions, QList<int>({ 300, kWidth, 0 }));
     QCOMPARE(m_f->timeline.playhead()->currentFrame(), qint64(600));
     widget->findChild<MvRulerGesture*>()->edgeScrollStep(); // 30 px back
     QCOMPARE(m_f->ruler->currentFrame(), qint64(570));

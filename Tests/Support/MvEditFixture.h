@@ -9,6 +9,8 @@
 #include "MvRecordingScene.h"
 #include "MvTimelinePresenter.h"
 
+#include <QMap>
+
 #include <memory>
 
 // The first line where two model dumps differ, empty when they are the same.
@@ -67,6 +69,54 @@ template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelineP
         return wrong.isEmpty() ? name : wrong;
     }
 
+    // For a walk of the undo stack after a sequence of commands: call before the first command and
+    // after each one.
+    void keepState()
+    {
+        const QString state = withoutView(snapshot());
+        // A command that made no step must have left the model alone.
+        if (m_kept.contains(undoCount()) && m_kept.value(undoCount()) != state && m_walkProblem.isEmpty())
+            m_walkProblem
+                = QStringLiteral("changed without an undo step: ") + mvStateDiff(state, m_kept.value(undoCount()));
+        m_kept.insert(undoCount(), state);
+    }
+
+    // Undoes every step back to the first kept state, then redoes them all, checking at each step that
+    // the model is consistent and, view state aside, as it was kept there. Gives the names of the steps
+    // walked, oldest first ("split, move clips"), or the first thing that went wrong.
+    QString walkUndo()
+    {
+        if (m_kept.isEmpty() || m_kept.lastKey() != undoCount() || m_kept.last() != withoutView(snapshot()))
+            return QStringLiteral("the state after the last command was not kept");
+        if (!m_walkProblem.isEmpty())
+            return m_walkProblem;
+        IMvUndoRedoService* undo = timeline.undoRedoService();
+        const auto check = [this](const char* pass, bool done) -> QString {
+            const int step = undoCount();
+            const QString where = QStringLiteral("%1 to step %2: ").arg(QLatin1String(pass)).arg(step);
+            if (!done)
+                return where + QStringLiteral("refused");
+            // A step with no state kept: a command made more than one.
+            if (!m_kept.contains(step))
+                return where + QStringLiteral("no state kept");
+            const QString wrong = timeline.checkInvariants() + mvStateDiff(withoutView(snapshot()), m_kept.value(step));
+            return wrong.isEmpty() ? QString() : where + wrong;
+        };
+        QStringList names;
+        while (undoCount() > m_kept.firstKey()) {
+            names.prepend(undo->undoName());
+            const QString wrong = check("undo", undo->undo());
+            if (!wrong.isEmpty())
+                return wrong;
+        }
+        while (undoCount() < m_kept.lastKey()) {
+            const QString wrong = check("redo", undo->redo());
+            if (!wrong.isEmpty())
+                return wrong;
+        }
+        return names.join(QLatin1String(", "));
+    }
+
     static QString withoutView(const QString& snapshot)
     {
         QStringList lines = snapshot.split(QLatin1Char('\n'));
@@ -78,7 +128,11 @@ template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelineP
     Timeline timeline;
     MvRecordingScene scene;
     MvLogCapture log;
-    std::unique_ptr<Presenter> presenter { new Presenter(nullptr, &timeline) }; // last, so it goes first
+    std::unique_ptr<Presenter> presenter { new Presenter(nullptr, &timeline) }; // after the model, so it goes first
+
+private:
+    QMap<int, QString> m_kept; // model states by undo depth
+    QString m_walkProblem;
 };
 
 // Empty when the log holds one record of this text, with this level, function and file.
