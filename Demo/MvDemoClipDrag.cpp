@@ -167,8 +167,7 @@ MvDemoClipDrag::Problem MvDemoClipDrag::problemOf(
         const Landing& landing = landings.at(i);
         const QList<IMvClip*> staying = timeline->trackAt(landing.trackIndex)->clips();
         for (IMvClip* other : staying) {
-            if (!clips.contains(other)
-                && overlaps(landing.start, landing.end, other->start(), other->end()))
+            if (!clips.contains(other) && overlaps(landing.start, landing.end, other->start(), other->end()))
                 return Problem::Overlap;
         }
         for (int j = i + 1; j < landings.size(); ++j) {

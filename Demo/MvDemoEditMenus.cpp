@@ -102,7 +102,8 @@ void MvDemoWindow::buildClipMenu()
     addCommand(clip, QStringLiteral("trim-end"), tr("Trim &End to Playhead"), QKeySequence(Qt::Key_W),
         [p] { return p->trimEndToPlayhead(); });
     clip->addSeparator();
-    addCommand(clip, QStringLiteral("delete"), tr("&Delete"), QKeySequence::Delete, [p] { return p->deleteItems(false); });
+    addCommand(
+        clip, QStringLiteral("delete"), tr("&Delete"), QKeySequence::Delete, [p] { return p->deleteItems(false); });
     addCommand(clip, QStringLiteral("ripple-delete"), tr("&Ripple Delete"), QKeySequence(Qt::SHIFT + Qt::Key_Delete),
         [p] { return p->rippleDeleteSelectedClips(); });
     clip->addSeparator();
@@ -174,8 +175,8 @@ void MvDemoWindow::buildMarkerAndKeyFrameMenus()
             m_timeline->playhead()->setSplitButtonVisible(true);
         refreshActions();
     });
-    connect(virtualPlayhead, &MvTimelineVirtualPlayheadPresenter::sigVisibleChanged, this,
-        &MvDemoWindow::refreshActions);
+    connect(
+        virtualPlayhead, &MvTimelineVirtualPlayheadPresenter::sigVisibleChanged, this, &MvDemoWindow::refreshActions);
     connect(m_player, &MvDemoPlayer::stateChanged, virtualPlayhead, [virtualPlayhead](bool playing) {
         virtualPlayhead->playStateChanged(playing ? MVVBLMODEL::PlayState_Playing : MVVBLMODEL::PlayState_Paused);
     });
@@ -195,14 +196,16 @@ void MvDemoWindow::buildViewMenu()
         m_rulerPresenter->moveCurrentFrameToCenter();
     }));
     view->addSeparator();
-    addCommand(view, QStringLiteral("rows-small"), tr("Small Tracks"), QKeySequence(), always([this] { setTrackSize(0); }));
-    addCommand(view, QStringLiteral("rows-normal"), tr("Normal Tracks"), QKeySequence(), always([this] { setTrackSize(1); }));
-    addCommand(view, QStringLiteral("rows-large"), tr("Large Tracks"), QKeySequence(), always([this] { setTrackSize(2); }));
+    addCommand(
+        view, QStringLiteral("rows-small"), tr("Small Tracks"), QKeySequence(), always([this] { setTrackSize(0); }));
+    addCommand(
+        view, QStringLiteral("rows-normal"), tr("Normal Tracks"), QKeySequence(), always([this] { setTrackSize(1); }));
+    addCommand(
+        view, QStringLiteral("rows-large"), tr("Large Tracks"), QKeySequence(), always([this] { setTrackSize(2); }));
     view->addSeparator();
-    QAction* snap = addCommand(view, QStringLiteral("snap"), tr("S&nap to Playhead, Edges and Markers"),
-        QKeySequence(Qt::Key_S), always([this] {
-            trackArea()->setSnapping(m_actions.value(QStringLiteral("snap"))->isChecked());
-        }));
+    QAction* snap
+        = addCommand(view, QStringLiteral("snap"), tr("S&nap to Playhead, Edges and Markers"), QKeySequence(Qt::Key_S),
+            always([this] { trackArea()->setSnapping(m_actions.value(QStringLiteral("snap"))->isChecked()); }));
     snap->setCheckable(true);
     snap->setChecked(trackArea()->snapping());
     view->addAction(m_journalDock->toggleViewAction());
@@ -217,7 +220,8 @@ void MvDemoWindow::buildTrackActions()
     }));
     lock->setCheckable(true);
     const QList<QPair<QString, QString>> sizes { { QStringLiteral("track-rows-small"), tr("Small Row") },
-        { QStringLiteral("track-rows-normal"), tr("Normal Row") }, { QStringLiteral("track-rows-large"), tr("Large Row") } };
+        { QStringLiteral("track-rows-normal"), tr("Normal Row") },
+        { QStringLiteral("track-rows-large"), tr("Large Row") } };
     for (int policy = 0; policy < sizes.size(); ++policy) {
         addCommand(nullptr, sizes.at(policy).first, sizes.at(policy).second, QKeySequence(),
             always([this, policy] { setTrackSize(m_menuTrack, policy); }));

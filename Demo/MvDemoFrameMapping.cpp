@@ -3,7 +3,8 @@
 #include "IMvTimelineRuler.h"
 
 MvDemoFrameMapping::MvDemoFrameMapping(const IMvTimelineRuler* ruler, int originX)
-    : m_ruler(ruler), m_originX(originX)
+    : m_ruler(ruler)
+    , m_originX(originX)
 {
 }
 

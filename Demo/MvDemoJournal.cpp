@@ -60,12 +60,12 @@ bool MvDemoJournalWords::printsToTerminal(int level, bool verbose)
 }
 
 MvDemoLogRouter::MvDemoLogRouter(bool verbose, QObject* parent, Terminal terminal)
-    : QObject(parent), m_verbose(verbose), m_terminal(std::move(terminal))
+    : QObject(parent)
+    , m_verbose(verbose)
+    , m_terminal(std::move(terminal))
 {
     if (!m_terminal) {
-        m_terminal = [](const QString& line) {
-            std::fputs(qPrintable(line + QLatin1Char('\n')), stderr);
-        };
+        m_terminal = [](const QString& line) { std::fputs(qPrintable(line + QLatin1Char('\n')), stderr); };
     }
     MvBaseLog* logger = MvBaseLog::defaultLogger();
     logger->setStderrEnabled(false);
@@ -89,5 +89,6 @@ void MvDemoLogRouter::route(const MvLogRecord& record)
         Q_EMIT journal(line);
         return;
     }
-    QMetaObject::invokeMethod(this, [this, line] { Q_EMIT journal(line); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, line] { Q_EMIT journal(line); }, Qt::QueuedConnection);
 }

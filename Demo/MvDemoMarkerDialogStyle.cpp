@@ -51,7 +51,10 @@ void addCancel(MvMarkerEditDialog* dialog)
 }
 }
 
-MvDemoMarkerDialogStyle::MvDemoMarkerDialogStyle(QObject* parent) : QObject(parent) { }
+MvDemoMarkerDialogStyle::MvDemoMarkerDialogStyle(QObject* parent)
+    : QObject(parent)
+{
+}
 
 void MvDemoMarkerDialogStyle::dress(MvMarkerEditDialog* dialog)
 {

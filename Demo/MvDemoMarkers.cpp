@@ -25,7 +25,8 @@ QImage flagImage(const QColor& color, bool outline)
 }
 
 MvDemoMarkerPresenter::MvDemoMarkerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
-    : MvMarkerPresenter(timelinePresenter, parent), m_timeline(timelinePresenter->timeline())
+    : MvMarkerPresenter(timelinePresenter, parent)
+    , m_timeline(timelinePresenter->timeline())
 {
     const QList<QColor> palette = markerPalette();
     for (int i = 0; i < palette.size(); ++i)
@@ -59,7 +60,8 @@ IMvMarker* MvDemoMarkerPresenter::markerAt(int index) const
 }
 
 MvDemoMarkerStrip::MvDemoMarkerStrip(MvDemoMarkerPresenter* presenter, QWidget* parent)
-    : MvMarkerWidget(presenter, parent), m_demoPresenter(presenter)
+    : MvMarkerWidget(presenter, parent)
+    , m_demoPresenter(presenter)
 {
     setMouseTracking(true);
     setFixedHeight(16);

@@ -35,7 +35,8 @@ bool allLocked(const QList<IMvClip*>& clips)
 }
 
 MvDemoRefusals::MvDemoRefusals(IMvTimeline* timeline, MvTimelinePresenter* presenter)
-    : m_timeline(timeline), m_presenter(presenter)
+    : m_timeline(timeline)
+    , m_presenter(presenter)
 {
 }
 
@@ -62,8 +63,10 @@ QString MvDemoRefusals::reason(const QString& command) const
         { QStringLiteral("remove-marker"), [](const MvDemoRefusals& r) { return r.removeMarkerReason(); } },
         { QStringLiteral("edit-marker"), [](const MvDemoRefusals& r) { return r.editMarkerReason(); } },
         { QStringLiteral("add-keyframe"), [](const MvDemoRefusals& r) { return r.addKeyFrameReason(); } },
-        { QStringLiteral("clear-video-keyframes"), [](const MvDemoRefusals& r) { return r.clearKeyFramesReason(false); } },
-        { QStringLiteral("clear-audio-keyframes"), [](const MvDemoRefusals& r) { return r.clearKeyFramesReason(true); } },
+        { QStringLiteral("clear-video-keyframes"),
+            [](const MvDemoRefusals& r) { return r.clearKeyFramesReason(false); } },
+        { QStringLiteral("clear-audio-keyframes"),
+            [](const MvDemoRefusals& r) { return r.clearKeyFramesReason(true); } },
         { QStringLiteral("virtual-open"), [](const MvDemoRefusals& r) { return r.virtualPlayheadReason(true); } },
         { QStringLiteral("virtual-close"), [](const MvDemoRefusals& r) { return r.virtualPlayheadReason(false); } },
         { QStringLiteral("undo"), [](const MvDemoRefusals& r) { return r.undoReason(true); } },
@@ -147,7 +150,8 @@ QString MvDemoRefusals::moveReason(qint64 frameOffset, int trackOffset) const
     if (frameOffset < 0 && earliest == 0)
         return tr("The clips already start at the beginning of the timeline.");
     frameOffset = qMax(frameOffset, -earliest);
-    const QList<MvDemoClipDrag::Landing> landings = MvDemoClipDrag::landingsFor(m_timeline, clips, frameOffset, trackOffset);
+    const QList<MvDemoClipDrag::Landing> landings
+        = MvDemoClipDrag::landingsFor(m_timeline, clips, frameOffset, trackOffset);
     bool rowChanges = false;
     for (const MvDemoClipDrag::Landing& landing : landings)
         rowChanges = rowChanges || landing.trackIndex != landing.clip->trackIndex();
@@ -183,7 +187,8 @@ QString MvDemoRefusals::rotateReason() const
     const IMvAbstractClip* current = m_timeline->selection()->currentItem();
     if (m_timeline->selection()->isEmpty() || !dynamic_cast<const IMvClip*>(current))
         return tr("Select a clip to rotate.");
-    return onLockedTrack(static_cast<const IMvClip*>(current)) ? tr("The selected clip is on a locked track.") : QString();
+    return onLockedTrack(static_cast<const IMvClip*>(current)) ? tr("The selected clip is on a locked track.")
+                                                               : QString();
 }
 
 QString MvDemoRefusals::selectedClipReason() const
@@ -259,7 +264,8 @@ QString MvDemoRefusals::clearKeyFramesReason(bool audio) const
         if (!clip->keyFrames(audio).isEmpty())
             return QString();
     }
-    return audio ? tr("The selected clips have no sound keyframes.") : tr("The selected clips have no picture keyframes.");
+    return audio ? tr("The selected clips have no sound keyframes.")
+                 : tr("The selected clips have no picture keyframes.");
 }
 
 QString MvDemoRefusals::virtualPlayheadReason(bool opening) const

@@ -29,7 +29,8 @@
 #include <QTimer>
 
 MvDemoScenario::MvDemoScenario(MvDemoWindow* window, const QString& outputDir)
-    : m_window(window), m_outputDir(outputDir)
+    : m_window(window)
+    , m_outputDir(outputDir)
 {
 }
 
@@ -71,8 +72,8 @@ void MvDemoScenario::seek(qint64 frame)
     m_window->timeline()->playhead()->setCurrentFrame(frame);
 }
 
-void MvDemoScenario::mouse(QWidget* target, QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons,
-    Qt::KeyboardModifiers modifiers)
+void MvDemoScenario::mouse(
+    QWidget* target, QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
 {
     // Real mouse events on the widget underneath, which offers them to the playhead overlay first.
     const QPoint local = target->mapFromGlobal(global);
@@ -92,8 +93,8 @@ void MvDemoScenario::drag(QWidget* target, const QPoint& from, const QPoint& to)
 void MvDemoScenario::wheel(QWidget* target, const QPoint& global, int notches, Qt::KeyboardModifiers modifiers)
 {
     const QPointF local = target->mapFromGlobal(global);
-    QWheelEvent event(local, global, QPoint(), QPoint(0, 120 * notches), Qt::NoButton, modifiers, Qt::NoScrollPhase,
-        false);
+    QWheelEvent event(
+        local, global, QPoint(), QPoint(0, 120 * notches), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QApplication::sendEvent(target, &event);
 }
 
@@ -170,43 +171,50 @@ void MvDemoScenario::trigger(const QString& actionName)
 QList<MvDemoScenario::Step> MvDemoScenario::editingSteps()
 {
     return {
-        { QStringLiteral("project"), [this] {
-             for (int i = 0; i < 40; ++i)
-                 m_window->renderSimulator()->step();
-         } },
+        { QStringLiteral("project"),
+            [this] {
+                for (int i = 0; i < 40; ++i)
+                    m_window->renderSimulator()->step();
+            } },
         { QStringLiteral("zoom-in"), [this] { trigger(QStringLiteral("zoom-in")); } },
         { QStringLiteral("zoom-fit"), [this] { trigger(QStringLiteral("zoom-fit")); } },
-        { QStringLiteral("split-market-street"), [this] {
-             select(QStringLiteral("Market street"));
-             seekInto(QStringLiteral("Market street"), 0.5);
-             trigger(QStringLiteral("split"));
-         } },
-        { QStringLiteral("trim-fishing-boats"), [this] {
-             select(QStringLiteral("Fishing boats"));
-             seekInto(QStringLiteral("Fishing boats"), 0.6);
-             trigger(QStringLiteral("trim-end"));
-         } },
-        { QStringLiteral("move-logo-right-and-up"), [this] {
-             select(QStringLiteral("Logo"));
-             trigger(QStringLiteral("move-right-second"));
-             trigger(QStringLiteral("move-up"));
-         } },
-        { QStringLiteral("marker-and-keyframe"), [this] {
-             select(QStringLiteral("Old map"));
-             seekInto(QStringLiteral("Old map"), 0.4);
-             trigger(QStringLiteral("add-marker"));
-             trigger(QStringLiteral("add-keyframe"));
-             trigger(QStringLiteral("rotate-cw"));
-         } },
-        { QStringLiteral("ripple-delete"), [this] {
-             select(QStringLiteral("Route planner"));
-             trigger(QStringLiteral("ripple-delete"));
-         } },
-        { QStringLiteral("undo-ripple-delete"), [this] {
-             trigger(QStringLiteral("undo"));
-             for (int i = 0; i < 30; ++i)
-                 m_window->renderSimulator()->step();
-         } },
+        { QStringLiteral("split-market-street"),
+            [this] {
+                select(QStringLiteral("Market street"));
+                seekInto(QStringLiteral("Market street"), 0.5);
+                trigger(QStringLiteral("split"));
+            } },
+        { QStringLiteral("trim-fishing-boats"),
+            [this] {
+                select(QStringLiteral("Fishing boats"));
+                seekInto(QStringLiteral("Fishing boats"), 0.6);
+                trigger(QStringLiteral("trim-end"));
+            } },
+        { QStringLiteral("move-logo-right-and-up"),
+            [this] {
+                select(QStringLiteral("Logo"));
+                trigger(QStringLiteral("move-right-second"));
+                trigger(QStringLiteral("move-up"));
+            } },
+        { QStringLiteral("marker-and-keyframe"),
+            [this] {
+                select(QStringLiteral("Old map"));
+                seekInto(QStringLiteral("Old map"), 0.4);
+                trigger(QStringLiteral("add-marker"));
+                trigger(QStringLiteral("add-keyframe"));
+                trigger(QStringLiteral("rotate-cw"));
+            } },
+        { QStringLiteral("ripple-delete"),
+            [this] {
+                select(QStringLiteral("Route planner"));
+                trigger(QStringLiteral("ripple-delete"));
+            } },
+        { QStringLiteral("undo-ripple-delete"),
+            [this] {
+                trigger(QStringLiteral("undo"));
+                for (int i = 0; i < 30; ++i)
+                    m_window->renderSimulator()->step();
+            } },
     };
 }
 
@@ -214,37 +222,44 @@ QList<MvDemoScenario::Step> MvDemoScenario::mouseSteps()
 {
     MvDemoTrackArea* area = m_window->trackArea();
     return {
-        { QStringLiteral("playhead-dragged-by-split-button"), [this, area] {
-             m_window->timeline()->selection()->clear();
-             seek(0);
-             drag(area, splitButtonCenter(), splitButtonCenter() + QPoint(420, 40));
-         } },
+        { QStringLiteral("playhead-dragged-by-split-button"),
+            [this, area] {
+                m_window->timeline()->selection()->clear();
+                seek(0);
+                drag(area, splitButtonCenter(), splitButtonCenter() + QPoint(420, 40));
+            } },
         { QStringLiteral("split-button-clicked"), [this] { clickSplitButton(); } },
-        { QStringLiteral("subtitles-dragged-left-snapped-to-logo-end"), [this, area] {
-             // Let go a little after the end of the logo a row above, the drag snaps onto that end.
-             const QPoint from = clipCenter(QStringLiteral("Subtitles"));
-             const IMvClip* logo = clipNamed(QStringLiteral("Logo"));
-             const IMvClip* subtitles = clipNamed(QStringLiteral("Subtitles"));
-             const int gap = area->mapping().xOf(logo->end() + 1) - area->mapping().xOf(subtitles->start());
-             drag(area, from, from + QPoint(gap + 3, 0));
-         } },
-        { QStringLiteral("seagull-dragged-down-a-row-and-later"), [this, area] {
-             const QPoint from = clipCenter(QStringLiteral("Seagull"));
-             drag(area, from, from + QPoint(area->mapping().xOf(2 * 30) - area->mapping().xOf(0), area->rowTop(1) - area->rowTop(0)));
-         } },
-        { QStringLiteral("band-selection"), [this, area] {
-             // From empty space on the second row down across the main story and its sound.
-             const QPoint from = area->mapToGlobal(QPoint(area->mapping().xOf(5 * 30), area->rowTop(1) + 10));
-             const QPoint to = area->mapToGlobal(QPoint(area->mapping().xOf(50 * 30), area->rowTop(3) + 10));
-             drag(area, from, to);
-         } },
-        { QStringLiteral("refused-drag-onto-another-clip"), [this, area] {
-             const QPoint from = clipCenter(QStringLiteral("Old map"));
-             drag(area, from, from + QPoint(area->mapping().xOf(12 * 30) - area->mapping().xOf(0), 0));
-         } },
-        { QStringLiteral("context-menu-on-a-clip"), [this] {
-             saveContextMenu(m_stepIndex, clipCenter(QStringLiteral("Fishing boats")));
-         } },
+        { QStringLiteral("subtitles-dragged-left-snapped-to-logo-end"),
+            [this, area] {
+                // Let go a little after the end of the logo a row above, the drag snaps onto that end.
+                const QPoint from = clipCenter(QStringLiteral("Subtitles"));
+                const IMvClip* logo = clipNamed(QStringLiteral("Logo"));
+                const IMvClip* subtitles = clipNamed(QStringLiteral("Subtitles"));
+                const int gap = area->mapping().xOf(logo->end() + 1) - area->mapping().xOf(subtitles->start());
+                drag(area, from, from + QPoint(gap + 3, 0));
+            } },
+        { QStringLiteral("seagull-dragged-down-a-row-and-later"),
+            [this, area] {
+                const QPoint from = clipCenter(QStringLiteral("Seagull"));
+                drag(area, from,
+                    from
+                        + QPoint(
+                            area->mapping().xOf(2 * 30) - area->mapping().xOf(0), area->rowTop(1) - area->rowTop(0)));
+            } },
+        { QStringLiteral("band-selection"),
+            [this, area] {
+                // From empty space on the second row down across the main story and its sound.
+                const QPoint from = area->mapToGlobal(QPoint(area->mapping().xOf(5 * 30), area->rowTop(1) + 10));
+                const QPoint to = area->mapToGlobal(QPoint(area->mapping().xOf(50 * 30), area->rowTop(3) + 10));
+                drag(area, from, to);
+            } },
+        { QStringLiteral("refused-drag-onto-another-clip"),
+            [this, area] {
+                const QPoint from = clipCenter(QStringLiteral("Old map"));
+                drag(area, from, from + QPoint(area->mapping().xOf(12 * 30) - area->mapping().xOf(0), 0));
+            } },
+        { QStringLiteral("context-menu-on-a-clip"),
+            [this] { saveContextMenu(m_stepIndex, clipCenter(QStringLiteral("Fishing boats"))); } },
         { QStringLiteral("marker-edited"), [this] { editFirstTimelineMarker(m_stepIndex); } },
     };
 }
@@ -253,45 +268,50 @@ QList<MvDemoScenario::Step> MvDemoScenario::navigationSteps()
 {
     MvDemoTrackArea* area = m_window->trackArea();
     return {
-        { QStringLiteral("ctrl-wheel-zoom-over-the-tracks"), [this, area] {
-             seek(20 * 30);
-             wheel(area, area->mapToGlobal(area->rect().center()), 4, Qt::ControlModifier);
-         } },
-        { QStringLiteral("shift-wheel-scroll-in-time"), [this, area] {
-             wheel(area, area->mapToGlobal(area->rect().center()), -6, Qt::ShiftModifier);
-         } },
-        { QStringLiteral("keys-step-the-playhead"), [this] {
-             key(Qt::Key_Home);
-             key(Qt::Key_Right, Qt::ShiftModifier);
-             key(Qt::Key_Right, Qt::ShiftModifier);
-             key(Qt::Key_Right);
-         } },
-        { QStringLiteral("playhead-dragged-against-the-right-edge"), [this, area] {
-             const QPoint head = playheadHeadCenter();
-             const QPoint beyond(m_window->ruler()->mapToGlobal(QPoint(m_window->ruler()->width() + 20, 0)).x(), head.y());
-             mouse(area, QEvent::MouseButtonPress, head, Qt::LeftButton);
-             mouse(area, QEvent::MouseMove, beyond, Qt::LeftButton);
-             for (int i = 0; i < 12; ++i)
-                 m_window->column()->followPlayheadStep();
-             mouse(area, QEvent::MouseButtonRelease, beyond, Qt::NoButton);
-         } },
-        { QStringLiteral("refused-split-at-the-end"), [this] {
-             key(Qt::Key_End);
-             key(Qt::Key_B, Qt::ControlModifier);
-         } },
-        { QStringLiteral("virtual-playhead"), [this] {
-             trigger(QStringLiteral("zoom-fit"));
-             trigger(QStringLiteral("virtual-open"));
-             seek(2000);
-         } },
-        { QStringLiteral("virtual-playhead-closed-split-button-back"), [this] {
-             trigger(QStringLiteral("virtual-close"));
-         } },
-        { QStringLiteral("large-tracks-scrolled-to-the-last-row"), [this] {
-             trigger(QStringLiteral("rows-large"));
-             QScrollBar* bar = m_window->column()->verticalBar();
-             bar->setValue(bar->maximum());
-         } },
+        { QStringLiteral("ctrl-wheel-zoom-over-the-tracks"),
+            [this, area] {
+                seek(20 * 30);
+                wheel(area, area->mapToGlobal(area->rect().center()), 4, Qt::ControlModifier);
+            } },
+        { QStringLiteral("shift-wheel-scroll-in-time"),
+            [this, area] { wheel(area, area->mapToGlobal(area->rect().center()), -6, Qt::ShiftModifier); } },
+        { QStringLiteral("keys-step-the-playhead"),
+            [this] {
+                key(Qt::Key_Home);
+                key(Qt::Key_Right, Qt::ShiftModifier);
+                key(Qt::Key_Right, Qt::ShiftModifier);
+                key(Qt::Key_Right);
+            } },
+        { QStringLiteral("playhead-dragged-against-the-right-edge"),
+            [this, area] {
+                const QPoint head = playheadHeadCenter();
+                const QPoint beyond(
+                    m_window->ruler()->mapToGlobal(QPoint(m_window->ruler()->width() + 20, 0)).x(), head.y());
+                mouse(area, QEvent::MouseButtonPress, head, Qt::LeftButton);
+                mouse(area, QEvent::MouseMove, beyond, Qt::LeftButton);
+                for (int i = 0; i < 12; ++i)
+                    m_window->column()->followPlayheadStep();
+                mouse(area, QEvent::MouseButtonRelease, beyond, Qt::NoButton);
+            } },
+        { QStringLiteral("refused-split-at-the-end"),
+            [this] {
+                key(Qt::Key_End);
+                key(Qt::Key_B, Qt::ControlModifier);
+            } },
+        { QStringLiteral("virtual-playhead"),
+            [this] {
+                trigger(QStringLiteral("zoom-fit"));
+                trigger(QStringLiteral("virtual-open"));
+                seek(2000);
+            } },
+        { QStringLiteral("virtual-playhead-closed-split-button-back"),
+            [this] { trigger(QStringLiteral("virtual-close")); } },
+        { QStringLiteral("large-tracks-scrolled-to-the-last-row"),
+            [this] {
+                trigger(QStringLiteral("rows-large"));
+                QScrollBar* bar = m_window->column()->verticalBar();
+                bar->setValue(bar->maximum());
+            } },
         { QStringLiteral("normal-tracks"), [this] { trigger(QStringLiteral("rows-normal")); } },
     };
 }

@@ -11,7 +11,11 @@
 
 using namespace MVVBLMODEL;
 
-MvDemoScene::MvDemoScene(MvDemoPlayer* player, QObject* parent) : QObject(parent), m_player(player) { }
+MvDemoScene::MvDemoScene(MvDemoPlayer* player, QObject* parent)
+    : QObject(parent)
+    , m_player(player)
+{
+}
 
 void MvDemoScene::receiveMessage(int id)
 {

@@ -156,8 +156,8 @@ void MvDemoTimelineColumn::scrollBy(int dx, int dy)
         IMvTimelineRuler* ruler = m_timeline->ruler();
         const qint64 target = ruler->visibleStartFrame() + (dx > 0 ? frames : -frames);
         const qint64 visible = ruler->visibleFrames();
-        const qint64 start = MvDemoNavigation::visibleStartFor(int(qBound<qint64>(0, target, std::numeric_limits<int>::max())),
-            ruler->totalFrames(), visible);
+        const qint64 start = MvDemoNavigation::visibleStartFor(
+            int(qBound<qint64>(0, target, std::numeric_limits<int>::max())), ruler->totalFrames(), visible);
         if (start != ruler->visibleStartFrame())
             ruler->setVisualRange(start, start + visible);
     }

@@ -17,7 +17,10 @@
 #include <QPainter>
 
 MvDemoTrackArea::MvDemoTrackArea(IMvTimeline* timeline, QWidget* parent)
-    : QWidget(parent), m_timeline(timeline), m_filters(new MvEventFilterManager(this)), m_mapping(timeline->ruler())
+    : QWidget(parent)
+    , m_timeline(timeline)
+    , m_filters(new MvEventFilterManager(this))
+    , m_mapping(timeline->ruler())
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -249,7 +252,8 @@ void MvDemoTrackArea::mouseMoveEvent(QMouseEvent* event)
     const bool travelled = (event->pos() - m_pressPos).manhattanLength() >= QApplication::startDragDistance();
     if (m_dragArmed && !m_drag.isActive() && travelled) {
         const int pressTrack = nearestTrack(m_pressPos.y());
-        m_drag.start(m_timeline, m_timeline->selection()->selectedClips(), m_mapping.frameAt(m_pressPos.x()), pressTrack);
+        m_drag.start(
+            m_timeline, m_timeline->selection()->selectedClips(), m_mapping.frameAt(m_pressPos.x()), pressTrack);
         m_pressItem = nullptr;
     }
     if (m_drag.isActive()) {

@@ -10,7 +10,9 @@
 #include <QPainter>
 
 MvDemoTrackHeaders::MvDemoTrackHeaders(IMvTimeline* timeline, MvDemoTrackArea* area, QWidget* parent)
-    : QWidget(parent), m_timeline(timeline), m_area(area)
+    : QWidget(parent)
+    , m_timeline(timeline)
+    , m_area(area)
 {
     setFixedWidth(120);
     connect(m_area, &MvDemoTrackArea::scrolled, this, qOverload<>(&QWidget::update));

@@ -21,7 +21,8 @@ const QColor kRefusedColor(0xFF, 0x5A, 0x4E);
 }
 
 MvDemoTrackPainter::MvDemoTrackPainter(QPainter& painter, const MvDemoTrackArea& area)
-    : m_painter(painter), m_area(area)
+    : m_painter(painter)
+    , m_area(area)
 {
 }
 
@@ -101,7 +102,8 @@ void MvDemoTrackPainter::clip(IMvClip* item, const QRect& rect, bool selected)
     QString label = item->name();
     // In words: an arrow glyph is missing from many fonts.
     if (item->rotation() != 0)
-        label = QCoreApplication::translate("MvDemoTrackArea", "%1 (rotated %2\u00b0)").arg(label).arg(item->rotation());
+        label
+            = QCoreApplication::translate("MvDemoTrackArea", "%1 (rotated %2\u00b0)").arg(label).arg(item->rotation());
     m_painter.drawText(rect.adjusted(6, 2, -4, -2), Qt::AlignLeft | Qt::AlignTop, label);
     keyFrames(item, rect);
     clipMarkers(item->clipMarkers(), rect);
@@ -137,8 +139,8 @@ void MvDemoTrackPainter::clipMarkers(IMvMarkerList* markers, const QRect& rect)
     for (const IMvMarker* marker : list) {
         const int x = m_area.mapping().xOf(markers->mapToTimeline(marker->frame()));
         const QRect flag = MvDemoTrackArea::markerFlagRect(x, rect.top());
-        m_painter.fillRect(QRect(x, rect.top(), 2, rect.height()), QColor(marker->color().red(), marker->color().green(),
-                                                                       marker->color().blue(), 170));
+        m_painter.fillRect(QRect(x, rect.top(), 2, rect.height()),
+            QColor(marker->color().red(), marker->color().green(), marker->color().blue(), 170));
         QPainterPath pennant;
         pennant.moveTo(flag.left() + 1, flag.top() + 0.5);
         pennant.lineTo(flag.right() + 0.5, flag.top() + 0.5);

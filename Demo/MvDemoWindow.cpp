@@ -44,7 +44,8 @@ constexpr int kJournalHeight = 150;
 }
 
 MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
-    : QMainWindow(parent), m_timeline(new MvMemoryTimeline(0))
+    : QMainWindow(parent)
+    , m_timeline(new MvMemoryTimeline(0))
 {
     m_logRouter = new MvDemoLogRouter(verbose, this);
     connect(m_logRouter, &MvDemoLogRouter::journal, this, &MvDemoWindow::appendJournal);
@@ -124,7 +125,8 @@ void MvDemoWindow::buildLayout()
     rows->addWidget(m_column, 1);
     setCentralWidget(central);
     if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
-        shortcuts->setShortcutText(MvCommandId::SplitClips, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
+        shortcuts->setShortcutText(
+            MvCommandId::SplitClips, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
 }
 
 void MvDemoWindow::buildJournal()
@@ -164,7 +166,7 @@ void MvDemoWindow::connectViews()
     connect(area, &MvDemoTrackArea::contextMenuRequested, this,
         [this](MvDemoTrackArea::MenuPlace place, const QPoint& globalPos) {
             showContextMenu(place == MvDemoTrackArea::MenuPlace::Clip ? MvDemoContextMenus::Place::Clip
-                                                                       : MvDemoContextMenus::Place::EmptySpace,
+                                                                      : MvDemoContextMenus::Place::EmptySpace,
                 globalPos);
         });
     connect(m_headers, &MvDemoTrackHeaders::lockToggled, this, &MvDemoWindow::viewsChanged);
@@ -286,8 +288,8 @@ bool MvDemoWindow::explainDisabledShortcut(const QKeySequence& keys)
         if (action->isEnabled() || action->shortcut().isEmpty() || action->shortcut() != keys)
             continue;
         const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).reason(it.key());
-        tellRefusal(reason.isEmpty() ? tr("%1 is not available now.").arg(action->text().remove(QLatin1Char('&')))
-                                     : reason);
+        tellRefusal(
+            reason.isEmpty() ? tr("%1 is not available now.").arg(action->text().remove(QLatin1Char('&'))) : reason);
         return true;
     }
     return false;
@@ -296,7 +298,8 @@ bool MvDemoWindow::explainDisabledShortcut(const QKeySequence& keys)
 QMenu* MvDemoWindow::contextMenu(MvDemoContextMenus::Place place)
 {
     refreshActions();
-    return MvDemoContextMenus::build(place, [this](const QString& name) { return m_actions.value(name); }, this);
+    return MvDemoContextMenus::build(
+        place, [this](const QString& name) { return m_actions.value(name); }, this);
 }
 
 void MvDemoWindow::showContextMenu(MvDemoContextMenus::Place place, const QPoint& globalPos)
@@ -346,11 +349,11 @@ void MvDemoWindow::refreshActions()
 {
     IMvUndoRedoService* undo = m_timeline->undoRedoService();
     m_actions.value(QStringLiteral("undo"))->setEnabled(undo->canUndo());
-    m_actions.value(QStringLiteral("undo"))->setText(
-        undo->canUndo() ? tr("&Undo %1").arg(undo->undoName()) : tr("&Undo"));
+    m_actions.value(QStringLiteral("undo"))
+        ->setText(undo->canUndo() ? tr("&Undo %1").arg(undo->undoName()) : tr("&Undo"));
     m_actions.value(QStringLiteral("redo"))->setEnabled(undo->canRedo());
-    m_actions.value(QStringLiteral("redo"))->setText(
-        undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
+    m_actions.value(QStringLiteral("redo"))
+        ->setText(undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
     setWindowModified(undo->canUndo());
     refreshEditActions();
     refreshStatus();

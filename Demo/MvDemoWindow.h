@@ -81,8 +81,8 @@ private:
     void buildViewMenu();
     void buildTrackActions();
     void refreshEditActions();
-    QAction* addCommand(QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut,
-        Command command);
+    QAction* addCommand(
+        QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, Command command);
     void runCommand(const QString& name, const Command& command);
     bool explainDisabledShortcut(const QKeySequence& keys);
     void refreshActions();

@@ -96,16 +96,26 @@ void tst_MvDemoClipDrag::snapPullsTheNearestEdgeOntoATarget_data()
     QTest::addColumn<qint64>("snapped");
     QTest::addColumn<qint64>("guide");
     const QVector<qint64> targets { 500, 100, 200, 100 };
-    QTest::newRow("end edge lands short of a target") << targets << QVector<qint64> { 50, 80 } << qint64(17) << qint64(5) << qint64(20) << qint64(100);
-    QTest::newRow("start edge overshoots a target") << targets << QVector<qint64> { 50, 80 } << qint64(153) << qint64(5) << qint64(150) << qint64(200);
-    QTest::newRow("exactly on a target") << targets << QVector<qint64> { 50, 80 } << qint64(20) << qint64(5) << qint64(20) << qint64(100);
-    QTest::newRow("out of reach") << targets << QVector<qint64> { 50, 80 } << qint64(10) << qint64(5) << qint64(10) << qint64(-1);
-    QTest::newRow("on the threshold") << targets << QVector<qint64> { 50, 80 } << qint64(15) << qint64(5) << qint64(20) << qint64(100);
-    QTest::newRow("the nearer of two edges wins") << targets << QVector<qint64> { 50, 80 } << qint64(146) << qint64(10) << qint64(150) << qint64(200);
-    QTest::newRow("a tie goes to the first edge") << QVector<qint64> { 100, 206 } << QVector<qint64> { 97, 203 } << qint64(0) << qint64(5) << qint64(3) << qint64(100);
-    QTest::newRow("a tie between targets goes to the earlier") << QVector<qint64> { 96, 104 } << QVector<qint64> { 100 } << qint64(0) << qint64(5) << qint64(-4) << qint64(96);
-    QTest::newRow("snapping off") << targets << QVector<qint64> { 50, 80 } << qint64(19) << qint64(0) << qint64(19) << qint64(-1);
-    QTest::newRow("nothing to snap to") << QVector<qint64>() << QVector<qint64> { 50 } << qint64(7) << qint64(5) << qint64(7) << qint64(-1);
+    QTest::newRow("end edge lands short of a target")
+        << targets << QVector<qint64> { 50, 80 } << qint64(17) << qint64(5) << qint64(20) << qint64(100);
+    QTest::newRow("start edge overshoots a target")
+        << targets << QVector<qint64> { 50, 80 } << qint64(153) << qint64(5) << qint64(150) << qint64(200);
+    QTest::newRow("exactly on a target") << targets << QVector<qint64> { 50, 80 } << qint64(20) << qint64(5)
+                                         << qint64(20) << qint64(100);
+    QTest::newRow("out of reach") << targets << QVector<qint64> { 50, 80 } << qint64(10) << qint64(5) << qint64(10)
+                                  << qint64(-1);
+    QTest::newRow("on the threshold") << targets << QVector<qint64> { 50, 80 } << qint64(15) << qint64(5) << qint64(20)
+                                      << qint64(100);
+    QTest::newRow("the nearer of two edges wins")
+        << targets << QVector<qint64> { 50, 80 } << qint64(146) << qint64(10) << qint64(150) << qint64(200);
+    QTest::newRow("a tie goes to the first edge") << QVector<qint64> { 100, 206 } << QVector<qint64> { 97, 203 }
+                                                  << qint64(0) << qint64(5) << qint64(3) << qint64(100);
+    QTest::newRow("a tie between targets goes to the earlier")
+        << QVector<qint64> { 96, 104 } << QVector<qint64> { 100 } << qint64(0) << qint64(5) << qint64(-4) << qint64(96);
+    QTest::newRow("snapping off") << targets << QVector<qint64> { 50, 80 } << qint64(19) << qint64(0) << qint64(19)
+                                  << qint64(-1);
+    QTest::newRow("nothing to snap to") << QVector<qint64>() << QVector<qint64> { 50 } << qint64(7) << qint64(5)
+                                        << qint64(7) << qint64(-1);
 }
 
 void tst_MvDemoClipDrag::snapPullsTheNearestEdgeOntoATarget()
@@ -147,11 +157,16 @@ void tst_MvDemoClipDrag::dragGivesTheFrameOffset_data()
     QTest::addColumn<qint64>("guide");
     // Pressed on frame 150 of a.
     QTest::newRow("free travel") << QStringLiteral("a") << qint64(180) << qint64(0) << qint64(30) << qint64(-1);
-    QTest::newRow("snaps a's end onto b's start") << QStringLiteral("a") << qint64(247) << qint64(5) << qint64(100) << qint64(300);
-    QTest::newRow("snaps a's start onto c's end") << QStringLiteral("a") << qint64(98) << qint64(5) << qint64(-50) << qint64(50);
-    QTest::newRow("stops the earliest clip at frame 0") << QStringLiteral("a") << qint64(-500) << qint64(0) << qint64(-100) << qint64(-1);
-    QTest::newRow("stopped at frame 0, on c's start") << QStringLiteral("a") << qint64(-500) << qint64(5) << qint64(-100) << qint64(0);
-    QTest::newRow("with c along it cannot move back") << QStringLiteral("a c") << qint64(120) << qint64(0) << qint64(0) << qint64(-1);
+    QTest::newRow("snaps a's end onto b's start")
+        << QStringLiteral("a") << qint64(247) << qint64(5) << qint64(100) << qint64(300);
+    QTest::newRow("snaps a's start onto c's end")
+        << QStringLiteral("a") << qint64(98) << qint64(5) << qint64(-50) << qint64(50);
+    QTest::newRow("stops the earliest clip at frame 0")
+        << QStringLiteral("a") << qint64(-500) << qint64(0) << qint64(-100) << qint64(-1);
+    QTest::newRow("stopped at frame 0, on c's start")
+        << QStringLiteral("a") << qint64(-500) << qint64(5) << qint64(-100) << qint64(0);
+    QTest::newRow("with c along it cannot move back")
+        << QStringLiteral("a c") << qint64(120) << qint64(0) << qint64(0) << qint64(-1);
 }
 
 void tst_MvDemoClipDrag::dragGivesTheFrameOffset()
@@ -179,13 +194,19 @@ void tst_MvDemoClipDrag::dragKeepsTheLeadKindOnItsRows_data()
     QTest::addColumn<int>("trackOffset");
     QTest::addColumn<QString>("landings");
     QTest::newRow("picture clip one row down") << QStringLiteral("a") << 0 << 1 << 1 << QStringLiteral("a@1:100..199");
-    QTest::newRow("picture clip stays off the audio rows") << QStringLiteral("a") << 0 << 3 << 1 << QStringLiteral("a@1:100..199");
-    QTest::newRow("picture clip cannot rise above the top") << QStringLiteral("c") << 1 << 0 << -1 << QStringLiteral("c@0:0..49");
+    QTest::newRow("picture clip stays off the audio rows")
+        << QStringLiteral("a") << 0 << 3 << 1 << QStringLiteral("a@1:100..199");
+    QTest::newRow("picture clip cannot rise above the top")
+        << QStringLiteral("c") << 1 << 0 << -1 << QStringLiteral("c@0:0..49");
     QTest::newRow("audio clip one row down") << QStringLiteral("s") << 2 << 3 << 1 << QStringLiteral("s@3:100..189");
-    QTest::newRow("audio clip stays off the picture rows") << QStringLiteral("s") << 2 << 0 << 0 << QStringLiteral("s@2:100..189");
-    QTest::newRow("sound moves against its picture") << QStringLiteral("c s") << 1 << 0 << -1 << QStringLiteral("c@0:0..49 s@3:100..189");
-    QTest::newRow("picture moves against its sound") << QStringLiteral("s c") << 2 << 3 << 1 << QStringLiteral("s@3:100..189 c@0:0..49");
-    QTest::newRow("a kind that would leave its rows stays") << QStringLiteral("a s") << 0 << 1 << 1 << QStringLiteral("a@1:100..199 s@2:100..189");
+    QTest::newRow("audio clip stays off the picture rows")
+        << QStringLiteral("s") << 2 << 0 << 0 << QStringLiteral("s@2:100..189");
+    QTest::newRow("sound moves against its picture")
+        << QStringLiteral("c s") << 1 << 0 << -1 << QStringLiteral("c@0:0..49 s@3:100..189");
+    QTest::newRow("picture moves against its sound")
+        << QStringLiteral("s c") << 2 << 3 << 1 << QStringLiteral("s@3:100..189 c@0:0..49");
+    QTest::newRow("a kind that would leave its rows stays")
+        << QStringLiteral("a s") << 0 << 1 << 1 << QStringLiteral("a@1:100..199 s@2:100..189");
 }
 
 void tst_MvDemoClipDrag::dragKeepsTheLeadKindOnItsRows()

@@ -27,10 +27,12 @@ void tst_MvDemoJournal::messagesAreSaidInWords_data()
     QTest::addColumn<int>("id");
     QTest::addColumn<QString>("words");
     QTest::newRow("pause") << MessageId::PausePlayer << QStringLiteral("pause player");
-    QTest::newRow("pause with sync") << MessageId::PausePlayerWithSync << QStringLiteral("pause player and wait for it");
+    QTest::newRow("pause with sync") << MessageId::PausePlayerWithSync
+                                     << QStringLiteral("pause player and wait for it");
     QTest::newRow("stop") << MessageId::StopPlayer << QStringLiteral("stop player");
     QTest::newRow("playing?") << MessageId::IsPlayerPlaying << QStringLiteral("ask whether the player is playing");
-    QTest::newRow("group question") << MessageId::GroupQuestionBeforeSplit << QStringLiteral("ask whether to ungroup before splitting");
+    QTest::newRow("group question") << MessageId::GroupQuestionBeforeSplit
+                                    << QStringLiteral("ask whether to ungroup before splitting");
     QTest::newRow("seek") << MessageId::Seek << QStringLiteral("seek");
     QTest::newRow("hide panel") << MessageId::HidePropertyPanel << QStringLiteral("hide the property panel");
     QTest::newRow("unknown keeps its number") << 4242 << QStringLiteral("message 4242");
@@ -53,7 +55,8 @@ void tst_MvDemoJournal::recordsNameTheirLevelAndFunction_data()
     QTest::newRow("note") << 4 << QStringLiteral("library note: clip is null (F::g)") << false << true;
     QTest::newRow("warning") << 8 << QStringLiteral("library warning: clip is null (F::g)") << true << true;
     QTest::newRow("refusal") << 16 << QStringLiteral("library refusal: clip is null (F::g)") << true << true;
-    QTest::newRow("between warning and refusal") << 12 << QStringLiteral("library warning: clip is null (F::g)") << true << true;
+    QTest::newRow("between warning and refusal")
+        << 12 << QStringLiteral("library warning: clip is null (F::g)") << true << true;
 }
 
 void tst_MvDemoJournal::recordsNameTheirLevelAndFunction()
@@ -74,7 +77,8 @@ void tst_MvDemoJournal::routerSendsEveryRecordToTheJournalAndSomeToTheTerminal_d
     QTest::addColumn<bool>("verbose");
     QTest::addColumn<QStringList>("terminal");
     const QString note = QStringLiteral("library note: split Clips start (MvTimelinePresenterPrivate::splitClips)");
-    const QString refusal = QStringLiteral("library refusal: cannt do action (MvTimelinePresenterPrivate::deleteSelectedClips)");
+    const QString refusal
+        = QStringLiteral("library refusal: cannt do action (MvTimelinePresenterPrivate::deleteSelectedClips)");
     QTest::newRow("quiet") << false << QStringList { refusal };
     QTest::newRow("verbose") << true << QStringList { note, refusal };
 }
@@ -89,10 +93,12 @@ void tst_MvDemoJournal::routerSendsEveryRecordToTheJournalAndSomeToTheTerminal()
     MvBaseLog* log = MvBaseLog::defaultLogger();
     const QString file = QStringLiteral("Src/MvTimeline/MvTimelinePresenter");
     log->log(4, file, 1, QStringLiteral("MvTimelinePresenterPrivate::splitClips"), QStringLiteral("split Clips start"));
-    log->log(16, file, 2, QStringLiteral("MvTimelinePresenterPrivate::deleteSelectedClips"), QStringLiteral("cannt do action"));
+    log->log(16, file, 2, QStringLiteral("MvTimelinePresenterPrivate::deleteSelectedClips"),
+        QStringLiteral("cannt do action"));
     QCOMPARE(printed, terminal);
     QCOMPARE(journal.count(), 2);
-    QCOMPARE(journal.at(0).at(0).toString(), QStringLiteral("library note: split Clips start (MvTimelinePresenterPrivate::splitClips)"));
+    QCOMPARE(journal.at(0).at(0).toString(),
+        QStringLiteral("library note: split Clips start (MvTimelinePresenterPrivate::splitClips)"));
     QCOMPARE(journal.at(1).at(0).toString(), terminal.last());
 }
 

@@ -50,11 +50,16 @@ void tst_MvDemoNavigation::horizontalBarCountsFrames_data()
     QTest::addColumn<qint64>("start");
     QTest::addColumn<qint64>("visible");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("whole timeline in view") << qint64(3540) << qint64(0) << qint64(3540) << QStringLiteral("range 0..0 page 3540 step 90 value 0");
-    QTest::newRow("zoomed in at the start") << qint64(3540) << qint64(0) << qint64(1000) << QStringLiteral("range 0..2540 page 1000 step 90 value 0");
-    QTest::newRow("zoomed in at the end") << qint64(3540) << qint64(2540) << qint64(1000) << QStringLiteral("range 0..2540 page 1000 step 90 value 2540");
-    QTest::newRow("empty timeline") << qint64(0) << qint64(0) << qint64(1) << QStringLiteral("range 0..0 page 1 step 90 value 0");
-    QTest::newRow("longer than an int") << qint64(5000000000) << qint64(4000000000) << qint64(100) << QStringLiteral("range 0..2147483647 page 100 step 90 value 2147483647");
+    QTest::newRow("whole timeline in view")
+        << qint64(3540) << qint64(0) << qint64(3540) << QStringLiteral("range 0..0 page 3540 step 90 value 0");
+    QTest::newRow("zoomed in at the start")
+        << qint64(3540) << qint64(0) << qint64(1000) << QStringLiteral("range 0..2540 page 1000 step 90 value 0");
+    QTest::newRow("zoomed in at the end")
+        << qint64(3540) << qint64(2540) << qint64(1000) << QStringLiteral("range 0..2540 page 1000 step 90 value 2540");
+    QTest::newRow("empty timeline") << qint64(0) << qint64(0) << qint64(1)
+                                    << QStringLiteral("range 0..0 page 1 step 90 value 0");
+    QTest::newRow("longer than an int") << qint64(5000000000) << qint64(4000000000) << qint64(100)
+                                        << QStringLiteral("range 0..2147483647 page 100 step 90 value 2147483647");
 }
 
 void tst_MvDemoNavigation::horizontalBarCountsFrames()
@@ -73,9 +78,12 @@ void tst_MvDemoNavigation::verticalBarCountsRowPixels_data()
     QTest::addColumn<int>("scrollY");
     QTest::addColumn<QString>("expected");
     QTest::newRow("rows fit") << 300 << 400 << 0 << QStringLiteral("range 0..0 page 400 step 40 value 0");
-    QTest::newRow("large rows, at the top") << 820 << 400 << 0 << QStringLiteral("range 0..420 page 400 step 40 value 0");
-    QTest::newRow("large rows, last row in view") << 820 << 400 << 420 << QStringLiteral("range 0..420 page 400 step 40 value 420");
-    QTest::newRow("rows shrank under a scrolled view") << 300 << 400 << 420 << QStringLiteral("range 0..0 page 400 step 40 value 0");
+    QTest::newRow("large rows, at the top")
+        << 820 << 400 << 0 << QStringLiteral("range 0..420 page 400 step 40 value 0");
+    QTest::newRow("large rows, last row in view")
+        << 820 << 400 << 420 << QStringLiteral("range 0..420 page 400 step 40 value 420");
+    QTest::newRow("rows shrank under a scrolled view")
+        << 300 << 400 << 420 << QStringLiteral("range 0..0 page 400 step 40 value 0");
     QTest::newRow("collapsed viewport") << 300 << 0 << 0 << QStringLiteral("range 0..300 page 1 step 40 value 0");
 }
 
@@ -120,17 +128,27 @@ void tst_MvDemoNavigation::wheelOverTheTracks_data()
     const int alt = Qt::AltModifier;
     const int shift = Qt::ShiftModifier;
     const int none = Qt::NoModifier;
-    QTest::newRow("wheel down scrolls the rows down") << none << QPoint(0, -120) << QPoint() << ctrl << WheelAction::Scroll << 0 << 40;
-    QTest::newRow("wheel up scrolls the rows up") << none << QPoint(0, 240) << QPoint() << ctrl << WheelAction::Scroll << 0 << -80;
-    QTest::newRow("shift turns it sideways") << shift << QPoint(0, -120) << QPoint() << ctrl << WheelAction::Scroll << 40 << 0;
-    QTest::newRow("shift, turned sideways by the platform") << shift << QPoint(120, 0) << QPoint() << ctrl << WheelAction::Scroll << -40 << 0;
-    QTest::newRow("a sideways wheel scrolls in time") << none << QPoint(-120, 0) << QPoint() << ctrl << WheelAction::Scroll << 40 << 0;
-    QTest::newRow("a touchpad scrolls by its pixels") << none << QPoint(0, -30) << QPoint(3, -7) << ctrl << WheelAction::Scroll << -3 << 7;
+    QTest::newRow("wheel down scrolls the rows down")
+        << none << QPoint(0, -120) << QPoint() << ctrl << WheelAction::Scroll << 0 << 40;
+    QTest::newRow("wheel up scrolls the rows up")
+        << none << QPoint(0, 240) << QPoint() << ctrl << WheelAction::Scroll << 0 << -80;
+    QTest::newRow("shift turns it sideways")
+        << shift << QPoint(0, -120) << QPoint() << ctrl << WheelAction::Scroll << 40 << 0;
+    QTest::newRow("shift, turned sideways by the platform")
+        << shift << QPoint(120, 0) << QPoint() << ctrl << WheelAction::Scroll << -40 << 0;
+    QTest::newRow("a sideways wheel scrolls in time")
+        << none << QPoint(-120, 0) << QPoint() << ctrl << WheelAction::Scroll << 40 << 0;
+    QTest::newRow("a touchpad scrolls by its pixels")
+        << none << QPoint(0, -30) << QPoint(3, -7) << ctrl << WheelAction::Scroll << -3 << 7;
     QTest::newRow("ctrl zooms") << ctrl << QPoint(0, 120) << QPoint() << ctrl << WheelAction::Zoom << 0 << 0;
-    QTest::newRow("alt zooms in the alt scheme") << alt << QPoint(0, 120) << QPoint() << alt << WheelAction::Zoom << 0 << 0;
-    QTest::newRow("ctrl does nothing in the alt scheme") << ctrl << QPoint(0, 120) << QPoint() << alt << WheelAction::None << 0 << 0;
-    QTest::newRow("ctrl+shift is no gesture") << (ctrl | shift) << QPoint(0, 120) << QPoint() << ctrl << WheelAction::None << 0 << 0;
-    QTest::newRow("keypad flag is ignored") << int(Qt::KeypadModifier) << QPoint(0, -120) << QPoint() << ctrl << WheelAction::Scroll << 0 << 40;
+    QTest::newRow("alt zooms in the alt scheme")
+        << alt << QPoint(0, 120) << QPoint() << alt << WheelAction::Zoom << 0 << 0;
+    QTest::newRow("ctrl does nothing in the alt scheme")
+        << ctrl << QPoint(0, 120) << QPoint() << alt << WheelAction::None << 0 << 0;
+    QTest::newRow("ctrl+shift is no gesture")
+        << (ctrl | shift) << QPoint(0, 120) << QPoint() << ctrl << WheelAction::None << 0 << 0;
+    QTest::newRow("keypad flag is ignored")
+        << int(Qt::KeypadModifier) << QPoint(0, -120) << QPoint() << ctrl << WheelAction::Scroll << 0 << 40;
     QTest::newRow("no turn, no step") << ctrl << QPoint() << QPoint() << ctrl << WheelAction::None << 0 << 0;
 }
 
@@ -143,7 +161,8 @@ void tst_MvDemoNavigation::wheelOverTheTracks()
     QFETCH(WheelAction, action);
     QFETCH(int, dx);
     QFETCH(int, dy);
-    const WheelStep step = wheelStep(Qt::KeyboardModifiers(modifiers), angle, pixels, Qt::KeyboardModifiers(zoomModifier));
+    const WheelStep step
+        = wheelStep(Qt::KeyboardModifiers(modifiers), angle, pixels, Qt::KeyboardModifiers(zoomModifier));
     QCOMPARE(step.action, action);
     QCOMPARE(step.dx, dx);
     QCOMPARE(step.dy, dy);
@@ -186,8 +205,10 @@ void tst_MvDemoNavigation::keysMoveThePlayhead_data()
     QTest::newRow("home goes to the start") << int(Qt::Key_Home) << 0 << qint64(900) << qint64(0);
     QTest::newRow("end goes to the end") << int(Qt::Key_End) << 0 << qint64(900) << qint64(3540);
     QTest::newRow("keypad arrows step too") << int(Qt::Key_Right) << int(Qt::KeypadModifier) << qint64(5) << qint64(6);
-    QTest::newRow("alt+left is the clip move, not a step") << int(Qt::Key_Left) << int(Qt::AltModifier) << qint64(100) << qint64(-1);
-    QTest::newRow("ctrl+right is not a step") << int(Qt::Key_Right) << int(Qt::ControlModifier) << qint64(100) << qint64(-1);
+    QTest::newRow("alt+left is the clip move, not a step")
+        << int(Qt::Key_Left) << int(Qt::AltModifier) << qint64(100) << qint64(-1);
+    QTest::newRow("ctrl+right is not a step")
+        << int(Qt::Key_Right) << int(Qt::ControlModifier) << qint64(100) << qint64(-1);
     QTest::newRow("shift+home is not a jump") << int(Qt::Key_Home) << shift << qint64(100) << qint64(-1);
     QTest::newRow("other keys are left alone") << int(Qt::Key_Space) << 0 << qint64(100) << qint64(-1);
 }

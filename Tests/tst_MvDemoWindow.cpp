@@ -289,10 +289,13 @@ void tst_MvDemoWindow::contextMenusOfferTheirCommands()
     QCOMPARE(names(MvDemoContextMenus::Place::Track), QStringLiteral("Lock Track,|,Small Row,Normal Row,Large Row"));
     QCOMPARE(names(MvDemoContextMenus::Place::Ruler),
         QStringLiteral("Add Marker,Edit Marker at Playhead...,Remove Selected Marker,|,Zoom to Fit,Zoom In,Zoom Out"));
-    QVERIFY(names(MvDemoContextMenus::Place::Clip).startsWith(QStringLiteral("Split at Playhead,Trim Start to Playhead")));
+    QVERIFY(
+        names(MvDemoContextMenus::Place::Clip).startsWith(QStringLiteral("Split at Playhead,Trim Start to Playhead")));
     // A name the window does not know is left out, and so is the separator it would leave.
-    QScopedPointer<QMenu> menu(MvDemoContextMenus::build(MvDemoContextMenus::Place::Track,
-        [&demo](const QString& name) { return name == QLatin1String("track-lock") ? nullptr : demo.window.action(name); },
+    QScopedPointer<QMenu> menu(MvDemoContextMenus::build(
+        MvDemoContextMenus::Place::Track,
+        [&demo](
+            const QString& name) { return name == QLatin1String("track-lock") ? nullptr : demo.window.action(name); },
         nullptr));
     QCOMPARE(menu->actions().size(), 3);
 }
@@ -323,7 +326,8 @@ void tst_MvDemoWindow::clipMarkerShowsItsNameAsToolTip()
     IMvMarker* marker = street->clipMarkers()->markers().first();
     marker->setName(QStringLiteral("Fish stall"));
     const int x = demo.area()->mapping().xOf(street->clipMarkers()->mapToTimeline(marker->frame()));
-    const QPoint at = MvDemoTrackArea::markerFlagRect(x, demo.area()->clipRect(street, street->trackIndex()).top()).center();
+    const QPoint at
+        = MvDemoTrackArea::markerFlagRect(x, demo.area()->clipRect(street, street->trackIndex()).top()).center();
     QCOMPARE(demo.area()->clipMarkerAt(at), marker);
     QHelpEvent help(QEvent::ToolTip, at, demo.area()->mapToGlobal(at));
     QApplication::sendEvent(demo.area(), &help);
@@ -373,7 +377,8 @@ void tst_MvDemoWindow::journalSpeaksWords()
     const QStringList journal = demo.window.journalLines();
     QCOMPARE(journal.mid(journal.size() - 3),
         (QStringList { QStringLiteral("command: Move One Frame Right"),
-            QStringLiteral("library note: horizontal move clips, frameOffset 1 (MvTimelinePresenterPrivate::moveClipsHorizontal)"),
+            QStringLiteral(
+                "library note: horizontal move clips, frameOffset 1 (MvTimelinePresenterPrivate::moveClipsHorizontal)"),
             QStringLiteral("scene: pause player") }));
 }
 
