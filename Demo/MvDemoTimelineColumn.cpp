@@ -86,6 +86,8 @@ MvDemoTimelineColumn::MvDemoTimelineColumn(MvTimelinePresenter* presenter, MvTim
 
 MvDemoTimelineColumn::~MvDemoTimelineColumn()
 {
+    m_ruler->removeEventFilter(this);
+    m_trackArea->removeEventFilter(this);
     m_ruler->eventFilterMgr()->removeFilter(m_overlay);
     m_trackArea->eventFilterMgr()->removeFilter(m_overlay);
 }

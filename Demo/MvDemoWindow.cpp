@@ -80,7 +80,10 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
 
 MvDemoWindow::~MvDemoWindow()
 {
-    // Widgets and presenters observe the model; they go before the model does.
+    // Widgets and presenters observe the model; they go before the model does. The views stop
+    // reporting to this window first: they are taken apart before it is.
+    ruler()->removeEventFilter(this);
+    trackArea()->removeEventFilter(this);
     delete centralWidget();
     delete m_markerPresenter;
     delete m_playheadPresenter;
