@@ -27,7 +27,8 @@ Q_SIGNALS:
     void journal(const QString& line);
 
 private:
-    void answerGroupQuestion(MvMessage* message);
+    // The answer given, in words.
+    QString answerGroupQuestion(MvMessage* message);
 
     MvDemoPlayer* m_player;
     QWidget* m_dialogParent = nullptr;

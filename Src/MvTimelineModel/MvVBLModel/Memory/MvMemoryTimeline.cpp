@@ -527,7 +527,7 @@ MvFrameRate MvMemoryTimeline::frameRate() const
 void MvMemoryTimeline::addChangeListener(std::function<void()> listener)
 {
     Q_D(MvMemoryTimeline);
-    d->changeListeners.append(std::move(listener));
+    d->changeListeners.append(listener);
 }
 
 void MvMemoryTimeline::setJournal(MvCallJournal* journal)
