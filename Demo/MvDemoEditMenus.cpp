@@ -83,6 +83,7 @@ void MvDemoWindow::buildMenus()
     buildMarkerAndKeyFrameMenus();
     buildViewMenu();
     buildTrackActions();
+    buildPanelMenu();
 
     QMenu* playback = menuBar()->addMenu(tr("&Playback"));
     addCommand(playback, QStringLiteral("play"), tr("Play / Pause"), QKeySequence(Qt::Key_Space),

@@ -33,6 +33,8 @@ QString MvDemoJournalWords::message(int id)
         { MessageId::EffectsDeleted, QT_TR_NOOP("effects deleted") },
         { MessageId::EffectsPasted, QT_TR_NOOP("effects pasted") },
         { MessageId::ShowPropertyPanel, QT_TR_NOOP("show the property panel") },
+        { MessageId::MediaLibraryFindSimilar, QT_TR_NOOP("find similar resources in the media library") },
+        { MessageId::MediaEditorSelectClip, QT_TR_NOOP("select clips in the media editor") },
     };
     const char* text = words.value(id);
     return text ? tr(text) : tr("message %1").arg(id);

@@ -71,6 +71,13 @@ QString MvDemoRefusals::reason(const QString& command) const
         { QStringLiteral("virtual-close"), [](const MvDemoRefusals& r) { return r.virtualPlayheadReason(false); } },
         { QStringLiteral("undo"), [](const MvDemoRefusals& r) { return r.undoReason(true); } },
         { QStringLiteral("redo"), [](const MvDemoRefusals& r) { return r.undoReason(false); } },
+        { QStringLiteral("find-similar"), [](const MvDemoRefusals& r) { return r.findSimilarReason(); } },
+        { QStringLiteral("select-all-texts"), [](const MvDemoRefusals& r) { return r.selectAllTextsReason(); } },
+        { QStringLiteral("advanced-edit"), [](const MvDemoRefusals& r) { return r.panelClipReason(); } },
+        { QStringLiteral("advanced-color"), [](const MvDemoRefusals& r) { return r.colourReason(); } },
+        { QStringLiteral("add-animation"), [](const MvDemoRefusals& r) { return r.panelClipReason(); } },
+        { QStringLiteral("audio-keyframe-panel"),
+            [](const MvDemoRefusals& r) { return r.audioKeyFramePanelReason(); } },
     };
     const Check check = checks.value(command);
     return m_timeline && check ? check(*this) : QString();

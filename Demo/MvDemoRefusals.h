@@ -41,6 +41,12 @@ private:
     QString clearKeyFramesReason(bool audio) const;
     QString virtualPlayheadReason(bool opening) const;
     QString undoReason(bool undo) const;
+    // The property panels and the media library (MvDemoPanelActions.cpp).
+    QString findSimilarReason() const;
+    QString selectAllTextsReason() const;
+    QString panelClipReason() const;
+    QString colourReason() const;
+    QString audioKeyFramePanelReason() const;
 
     IMvTimeline* m_timeline;
     MvTimelinePresenter* m_presenter;

@@ -46,6 +46,10 @@ void MvDemoScene::receiveMessage(MvMessage* message)
         break;
     }
     default:
+        for (const Handler& handler : qAsConst(m_handlers)) {
+            if (handler(message, &detail))
+                break;
+        }
         break;
     }
     const QString words = MvDemoJournalWords::message(id);

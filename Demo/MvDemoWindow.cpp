@@ -65,6 +65,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
 
     buildLayout();
     buildJournal();
+    buildPanels();
     buildMenus();
     connectViews();
     qApp->installEventFilter(new MvDemoMarkerDialogStyle(this));
@@ -359,6 +360,7 @@ void MvDemoWindow::refreshActions()
         ->setText(undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
     setWindowModified(undo->canUndo());
     refreshEditActions();
+    refreshPanelActions();
     refreshStatus();
 }
 

@@ -14,11 +14,13 @@ class QLabel;
 class QMenu;
 class QPlainTextEdit;
 class MvMemoryTimeline;
+class MvDemoLibraryDock;
 class MvDemoLogRouter;
 class MvDemoMarkerPresenter;
 class MvDemoPlayer;
 class MvDemoPlayheadPresenter;
 class MvDemoPresenter;
+class MvDemoPropertiesDock;
 class MvDemoRenderSimulator;
 class MvDemoScene;
 class MvDemoTimelineColumn;
@@ -57,6 +59,9 @@ public:
     QString statusText() const;
     void appendJournal(const QString& line);
     QStringList journalLines() const { return m_journal; }
+    // The host's panels the presenter asks for (MvDemoPanelActions.cpp).
+    MvDemoPropertiesDock* propertiesDock() const { return m_propertiesDock; }
+    MvDemoLibraryDock* libraryDock() const { return m_libraryDock; }
 
     // Tells the user why a command did nothing. One place, so that the notice can change its look.
     void tellRefusal(const QString& text);
@@ -80,6 +85,10 @@ private:
     void buildMarkerAndKeyFrameMenus();
     void buildViewMenu();
     void buildTrackActions();
+    // The property panels and the media library (MvDemoPanelActions.cpp).
+    void buildPanels();
+    void buildPanelMenu();
+    void refreshPanelActions();
     void refreshEditActions();
     QAction* addCommand(
         QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, Command command);
@@ -109,6 +118,8 @@ private:
     MvDemoTrackHeaders* m_headers = nullptr;
     QPlainTextEdit* m_journalView = nullptr;
     QDockWidget* m_journalDock = nullptr;
+    MvDemoPropertiesDock* m_propertiesDock = nullptr;
+    MvDemoLibraryDock* m_libraryDock = nullptr;
     QLabel* m_status = nullptr;
     QHash<QString, QAction*> m_actions;
     QStringList m_journal;
