@@ -169,7 +169,10 @@ bool MvDemoPropertiesDock::handleMessage(MvMessage* message, QString* detail)
         const auto* request = static_cast<MvMediaEditorSelectClipMessage*>(message);
         showPage(Page::AdvancedText);
         selectTexts(request->clips(), request->replacesSelection());
-        *detail = tr("%n text(s) selected in the text editor", nullptr, int(request->clips().size()));
+        QStringList names;
+        for (const IMvClip* clip : request->clips())
+            names.append(clip->name());
+        *detail = tr("selected in the text editor: %1").arg(names.join(QLatin1String(", ")));
         return true;
     }
     default:
@@ -270,9 +273,11 @@ void MvDemoPropertiesDock::pickKeyFrame(const QListWidgetItem* item, bool audio)
 {
     IMvClip* clip = clipOf(item);
     const qint64 frame = item->data(kFrameRole).toLongLong();
+    const QString where = item->text();
     // The picked keyframe becomes the keyframe selection, as picking one on the timeline would.
     if (IMvKeyFrameSelector* selector = m_timeline->keyFrameSelector())
         selector->select({ clip, audio ? IMvKeyFrameSelector::AudioSide : IMvKeyFrameSelector::VideoSide, { frame } });
     m_presenter->selectedKeyFrameChanged(clip, frame);
+    Q_EMIT journal(tr("keyframe picked: %1 at %2").arg(clip->name(), where));
     Q_EMIT keyFramePicked();
 }
