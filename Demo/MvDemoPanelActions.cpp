@@ -1,6 +1,7 @@
 // The host's panels that the timeline presenter asks for: the Properties dock (property pages,
 // keyframe lists, advanced editors, colour editor, the media editor's text list) and the Library
-// dock, with the commands that ask for them and why a command cannot run.
+// dock, with the commands that ask for them, why a command cannot run, and the scenario's tour
+// of them.
 #include "MvDemoWindow.h"
 
 #include "IMvAbstractClip.h"
@@ -13,10 +14,13 @@
 #include "MvDemoPresenter.h"
 #include "MvDemoPropertiesDock.h"
 #include "MvDemoRefusals.h"
+#include "MvDemoScenario.h"
 #include "MvDemoScene.h"
 #include "MvTimelineClipHelper.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -151,4 +155,53 @@ QString MvDemoRefusals::audioKeyFramePanelReason() const
     if (!m_timeline->keyFrameSelector()->currentSelection().isValid())
         return tr("Pick a keyframe in the Properties dock first.");
     return QString();
+}
+
+QList<MvDemoScenario::Step> MvDemoScenario::panelSteps()
+{
+    return {
+        { QStringLiteral("select-all-texts"),
+            [this] {
+                select(QStringLiteral("Lower third"));
+                trigger(QStringLiteral("select-all-texts"));
+            } },
+        { QStringLiteral("find-similar"),
+            [this] {
+                select(QStringLiteral("Theme"));
+                trigger(QStringLiteral("find-similar"));
+            } },
+        { QStringLiteral("keyframe-panel"),
+            [this] {
+                // The piece of the music that kept its volume keyframes through the earlier cuts.
+                for (MvMemoryClip* clip : m_window->timeline()->liveClips()) {
+                    if (clip->name() == QLatin1String("Theme") && !clip->keyFrames(true).isEmpty())
+                        m_window->timeline()->selection()->select({ clip });
+                }
+                trigger(QStringLiteral("add-animation"));
+                pickFirstKeyFrame(true);
+            } },
+        { QStringLiteral("audio-panel"), [this] { trigger(QStringLiteral("audio-keyframe-panel")); } },
+        { QStringLiteral("advanced-subtitle-editor"),
+            [this] {
+                select(QStringLiteral("Subtitles"));
+                trigger(QStringLiteral("advanced-edit"));
+            } },
+        { QStringLiteral("advanced-colour"),
+            [this] {
+                select(QStringLiteral("Old map"));
+                trigger(QStringLiteral("advanced-color"));
+            } },
+    };
+}
+
+void MvDemoScenario::pickFirstKeyFrame(bool audio)
+{
+    QListWidget* keys = m_window->propertiesDock()->keyFrameList(audio);
+    if (keys->count() == 0)
+        return;
+    QApplication::processEvents();
+    QWidget* viewport = keys->viewport();
+    const QPoint global = viewport->mapToGlobal(keys->visualItemRect(keys->item(0)).center());
+    mouse(viewport, QEvent::MouseButtonPress, global, Qt::LeftButton);
+    mouse(viewport, QEvent::MouseButtonRelease, global, Qt::NoButton);
 }

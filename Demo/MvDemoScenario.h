@@ -32,6 +32,9 @@ private:
     QList<Step> editingSteps();
     QList<Step> mouseSteps();
     QList<Step> navigationSteps();
+    // The property panels and the media library (MvDemoPanelActions.cpp).
+    QList<Step> panelSteps();
+    void pickFirstKeyFrame(bool audio);
     void trigger(const QString& actionName);
     IMvClip* clipNamed(const QString& name) const;
     QPoint clipCenter(const QString& name) const;
