@@ -146,13 +146,20 @@ bool MvDemoPropertiesDock::handleMessage(MvMessage* message, QString* detail)
         hide();
         *detail = tr("the Properties dock is hidden");
         return true;
-    case MessageId::ShowPropertyPanelPage:
-        showPage(MvDemoPropertyWords::pageForPanelPage(static_cast<MvDataMessage*>(message)->data().toInt()));
+    case MessageId::ShowPropertyPanelPage: {
+        const auto* request = dynamic_cast<MvDataMessage*>(message);
+        if (!request)
+            return false;
+        showPage(MvDemoPropertyWords::pageForPanelPage(request->data().toInt()));
         break;
-    case MessageId::ShowPropertyPanel:
-        showPage(
-            MvDemoPropertyWords::pageForPropertyType(static_cast<MvPropertyPanelShowMessage2*>(message)->panelType()));
+    }
+    case MessageId::ShowPropertyPanel: {
+        const auto* request = dynamic_cast<MvPropertyPanelShowMessage2*>(message);
+        if (!request)
+            return false;
+        showPage(MvDemoPropertyWords::pageForPropertyType(request->panelType()));
         break;
+    }
     case MessageId::ShowAdvancedTextEditor:
         showPage(Page::AdvancedText);
         break;
@@ -166,7 +173,9 @@ bool MvDemoPropertiesDock::handleMessage(MvMessage* message, QString* detail)
         showPage(Page::Colour);
         break;
     case MessageId::MediaEditorSelectClip: {
-        const auto* request = static_cast<MvMediaEditorSelectClipMessage*>(message);
+        const auto* request = dynamic_cast<MvMediaEditorSelectClipMessage*>(message);
+        if (!request)
+            return false;
         showPage(Page::AdvancedText);
         selectTexts(request->clips(), request->replacesSelection());
         QStringList names;
