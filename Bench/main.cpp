@@ -3,14 +3,21 @@
 #include <QApplication>
 
 void registerRulerBenchmarks();
+void registerStripBenchmarks();
+void registerMarkerBenchmarks();
+void registerPlayheadBenchmarks();
 
 // mvtimeline-bench [group]: runs every benchmark group, or those whose name contains the argument.
+// Exits non-zero when a figure's ratio to its floor is over its goal.
 int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     registerRulerBenchmarks();
+    registerStripBenchmarks();
+    registerMarkerBenchmarks();
+    registerPlayheadBenchmarks();
     const QStringList arguments = app.arguments();
     return MvBench::runAll(arguments.size() > 1 ? arguments.at(1) : QString());
 }

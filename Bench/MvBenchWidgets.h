@@ -1,0 +1,21 @@
+#pragma once
+
+// What the widget benchmarks share: target images at a device pixel ratio and the floor of a
+// widget paint, a widget of the same size that only fills its background.
+
+#include <QImage>
+#include <QSize>
+#include <QWidget>
+
+namespace MvBench {
+
+// A premultiplied image of `size` logical pixels at `dpr`, filled black.
+QImage targetImage(const QSize& size, double dpr);
+
+// Renders the widget into the image, as a host's window would have it painted.
+void renderInto(QWidget* widget, QImage* image);
+
+// Milliseconds a widget of `size` takes to be rendered into `image` when it only fills its
+// background: what any paint of that widget costs at least.
+double widgetFloor(const QSize& size, QImage* image);
+}
