@@ -3,7 +3,7 @@
 #include "IMvTimelineRuler.h"
 #include "MvScreen.h"
 #include "MvSkinStyle.h"
-#include "MvTimelineRulerPresenter.h"
+#include "MvTimeCode_p.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -128,7 +128,7 @@ void paint(
     ruler->frameRate(&numerator, &denominator);
     for (const MvRulerLabel& label : qAsConst(scratch.labels)) {
         painter.drawText(label.rect, Qt::AlignLeft | Qt::AlignTop,
-            MvTimelineRulerPresenter::formatTimecode(label.frame, numerator, denominator));
+            MvTimeCode::format(label.frame, numerator, denominator));
     }
     fillTicks(painter, scratch, 1.0 / MvScreen::devicePixelRatio(), input.height, dy, ink);
     painter.restore();

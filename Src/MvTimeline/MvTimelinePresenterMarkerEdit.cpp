@@ -11,6 +11,7 @@
 #include "IMvUndoRedoService.h"
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerPresenter.h"
+#include "MvTimeCode_p.h"
 #include "MvTimelineLog_p.h"
 #include "MvUtility.h"
 
@@ -22,25 +23,19 @@ constexpr int kNominalRateWithoutRuler = 30;
 #define MV_MARKER_EDIT_LOG(level, message)                                                                             \
     MV_TIMELINE_LOG(level, "Src/MvTimeline/MvTimelinePresenter", "MvTimelinePresenterPrivate::editMarker", message)
 
-// "HH:MM:SS:FF", non-drop: frames are counted at the nominal rate (29.97 counts as 30), which is
-// how the ruler labels its ticks too.
+// The marker's time as the ruler labels that frame: the same formatter at the ruler's rate (30
+// frames a second without a ruler or a rate).
 QString formatTimeCode(qint64 frame, const IMvTimelineRuler* ruler)
 {
     int numerator = 0;
     int denominator = 0;
     if (ruler)
         ruler->frameRate(&numerator, &denominator);
-    const qint64 base = numerator > 0 && denominator > 0
-        ? std::max<qint64>(1, qRound64(double(numerator) / double(denominator)))
-        : kNominalRateWithoutRuler;
-    const qint64 total = std::max<qint64>(0, frame);
-    const qint64 seconds = total / base;
-    const QLatin1Char zero('0');
-    return QStringLiteral("%1:%2:%3:%4")
-        .arg(seconds / 3600, 2, 10, zero)
-        .arg((seconds / 60) % 60, 2, 10, zero)
-        .arg(seconds % 60, 2, 10, zero)
-        .arg(total % base, 2, 10, zero);
+    if (numerator <= 0 || denominator <= 0) {
+        numerator = kNominalRateWithoutRuler;
+        denominator = 1;
+    }
+    return MvTimeCode::format(std::max<qint64>(0, frame), numerator, denominator);
 }
 
 // The list a marker at the playhead belongs to, chosen as adding a marker chooses it: the single
