@@ -26,8 +26,7 @@ constexpr int kStripHeight = 6;
 constexpr int kHeight = 230;
 
 // Counts its paints and how many of them covered the whole widget.
-template<typename Widget>
-class Counted : public Widget
+template <typename Widget> class Counted : public Widget
 {
 public:
     using Widget::Widget;

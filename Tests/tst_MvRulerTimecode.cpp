@@ -122,16 +122,16 @@ void tst_MvRulerTimecode::rulerAndMarkerEditorAgree_data()
     QTest::newRow("start") << qint64(0) << 30000 << 1001 << QStringLiteral("00:00:00:00");
     // Counting 29.97 as 30 would show 00:09:59:12 here.
     QTest::newRow("29.97: ten minutes") << qint64(17982) << 30000 << 1001 << QStringLiteral("00:10:00:00");
-    QTest::newRow("29.97: last frame before ten minutes") << qint64(17981) << 30000 << 1001
-                                                          << QStringLiteral("00:09:59:28");
+    QTest::newRow("29.97: last frame before ten minutes")
+        << qint64(17981) << 30000 << 1001 << QStringLiteral("00:09:59:28");
     QTest::newRow("23.976: one minute and a frame") << qint64(1440) << 24000 << 1001 << QStringLiteral("00:01:00:01");
     QTest::newRow("23.976: one hour") << qint64(86314) << 24000 << 1001 << QStringLiteral("01:00:00:00");
     QTest::newRow("25: last frame of a second") << qint64(24) << 25 << 1 << QStringLiteral("00:00:00:24");
     QTest::newRow("25: one hour and a frame") << qint64(90001) << 25 << 1 << QStringLiteral("01:00:00:01");
     QTest::newRow("60: last frame of a minute") << qint64(3599) << 60 << 1 << QStringLiteral("00:00:59:59");
     QTest::newRow("30: a hundred hours") << qint64(10800000) << 30 << 1 << QStringLiteral("100:00:00:00");
-    QTest::newRow("30: largest frame the ruler labels") << qint64(2147483647) << 30 << 1
-                                                        << QStringLiteral("19884:06:28:07");
+    QTest::newRow("30: largest frame the ruler labels")
+        << qint64(2147483647) << 30 << 1 << QStringLiteral("19884:06:28:07");
 }
 
 // The ruler labels a frame and the marker editor shows a marker's time with the same text.
