@@ -59,40 +59,78 @@ void print(const QString& name, double milliseconds, double floorMilliseconds, c
 {
     ++state().figures;
     const double ratio = floorMilliseconds > 0.0 ? milliseconds / floorMilliseconds : 0.0;
-    std::printf("%-68s %9.5f ms %-21s floor %8.5f ms  ratio %7.2f  %s\n", qPrintable(name), milliseconds,
-        qPrintable(spreadText(milliseconds)), floorMilliseconds, ratio, qPrintable(verdict));
+    std::printf("%-66s %9.5f ms %-21s floor %8.5f ms %-21s ratio %7.2f  %s\n", qPrintable(name), milliseconds,
+        qPrintable(spreadText(milliseconds)), floorMilliseconds, qPrintable(spreadText(floorMilliseconds)), ratio,
+        qPrintable(verdict));
     std::fflush(stdout);
 }
 
 }
 
-double measure(const std::function<void()>& work)
+namespace {
+
+// Calls per batch so that a batch lasts long enough to time well; warms caches and lazily built
+// state on the way.
+qint64 batchSize(const std::function<void()>& work)
 {
     QElapsedTimer timer;
-    // Warm up caches and lazily built state, and find a batch long enough to time well.
     qint64 calls = 1;
     while (true) {
         timer.start();
         for (qint64 i = 0; i < calls; ++i)
             work();
         if (timer.nsecsElapsed() >= kBatchNanoseconds)
-            break;
+            return calls;
         calls *= 2;
     }
-    QList<double> perCall;
-    for (int batch = 0; batch < kBatches; ++batch) {
-        timer.start();
-        for (qint64 i = 0; i < calls; ++i)
-            work();
-        perCall.append(double(timer.nsecsElapsed()) / 1.0e6 / double(calls));
-    }
+}
+
+double timeBatch(const std::function<void()>& work, qint64 calls)
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (qint64 i = 0; i < calls; ++i)
+        work();
+    return double(timer.nsecsElapsed()) / 1.0e6 / double(calls);
+}
+
+// Keeps the spread of one measurement and gives its median.
+double keep(QList<double> perCall)
+{
     std::sort(perCall.begin(), perCall.end());
-    const Spread spread { perCall.at(kBatches / 2), perCall.constFirst(), perCall.constLast() };
+    const Spread spread { perCall.at(perCall.size() / 2), perCall.constFirst(), perCall.constLast() };
     QList<Spread>& recent = state().recent;
     recent.append(spread);
     if (recent.size() > 16)
         recent.removeFirst();
     return spread.median;
+}
+
+}
+
+double measure(const std::function<void()>& work)
+{
+    const qint64 calls = batchSize(work);
+    QList<double> perCall;
+    for (int batch = 0; batch < kBatches; ++batch)
+        perCall.append(timeBatch(work, calls));
+    return keep(perCall);
+}
+
+Figure measureAgainst(const std::function<void()>& work, const std::function<void()>& floor)
+{
+    const qint64 floorCalls = batchSize(floor);
+    const qint64 workCalls = batchSize(work);
+    QList<double> floorPerCall;
+    QList<double> workPerCall;
+    for (int batch = 0; batch < kBatches; ++batch) {
+        floorPerCall.append(timeBatch(floor, floorCalls));
+        workPerCall.append(timeBatch(work, workCalls));
+    }
+    Figure figure;
+    figure.floorMilliseconds = keep(floorPerCall);
+    figure.milliseconds = keep(workPerCall);
+    return figure;
 }
 
 void report(const QString& name, double milliseconds, double floorMilliseconds, const QString& goal)

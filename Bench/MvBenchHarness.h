@@ -16,6 +16,15 @@ namespace MvBench {
 // report of this figure.
 double measure(const std::function<void()>& work);
 
+// A figure and its floor, timed in alternating batches so that both meet the same load on a
+// shared machine; each median's spread is kept for the report.
+struct Figure
+{
+    double milliseconds = 0.0;
+    double floorMilliseconds = 0.0;
+};
+Figure measureAgainst(const std::function<void()>& work, const std::function<void()>& floor);
+
 // Prints one figure with its floor and ratio, and a note instead of a goal (or nothing): such a
 // figure is shown for comparison and never fails the run.
 void report(const QString& name, double milliseconds, double floorMilliseconds, const QString& goal);

@@ -1,23 +1,9 @@
 #include "MvBenchWidgets.h"
 
-#include "MvBenchHarness.h"
-
 #include <QPainter>
 #include <QtMath>
 
 namespace MvBench {
-
-namespace {
-class BackgroundOnly : public QWidget
-{
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        painter.fillRect(rect(), palette().brush(QPalette::Window));
-    }
-};
-}
 
 QImage targetImage(const QSize& size, double dpr)
 {
@@ -32,11 +18,15 @@ void renderInto(QWidget* widget, QImage* image)
     widget->render(image, QPoint(), QRegion(), QWidget::RenderFlags());
 }
 
-double widgetFloor(const QSize& size, QImage* image)
+FloorWidget::FloorWidget(const QSize& size)
 {
-    BackgroundOnly floor;
-    floor.resize(size);
-    return measure([&] { renderInto(&floor, image); });
+    resize(size);
+}
+
+void FloorWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().brush(QPalette::Window));
 }
 
 }

@@ -15,7 +15,13 @@ QImage targetImage(const QSize& size, double dpr);
 // Renders the widget into the image, as a host's window would have it painted.
 void renderInto(QWidget* widget, QImage* image);
 
-// Milliseconds a widget of `size` takes to be rendered into `image` when it only fills its
-// background: what any paint of that widget costs at least.
-double widgetFloor(const QSize& size, QImage* image);
+// What any paint of a widget of this size costs at least: it fills its background and nothing else.
+class FloorWidget : public QWidget
+{
+public:
+    explicit FloorWidget(const QSize& size);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
 }

@@ -71,33 +71,40 @@ void measureStrip(double dpr, bool ownBackground)
         strip.setPalette(palette);
     }
     QImage image = MvBench::targetImage(strip.size(), dpr);
-    const double floor = MvBench::widgetFloor(strip.size(), &image);
+    MvBench::FloorWidget floor(strip.size());
+    const auto paintFloor = [&] { MvBench::renderInto(&floor, &image); };
     const QString what = QStringLiteral("marker strip @%1, %2 markers, %3")
                              .arg(dpr)
                              .arg(kMarkers)
                              .arg(ownBackground ? QStringLiteral("own background") : QStringLiteral("transparent"));
-    const double ms = MvBench::measure([&] { MvBench::renderInto(&strip, &image); });
+    const MvBench::Figure paint = MvBench::measureAgainst([&] { MvBench::renderInto(&strip, &image); }, paintFloor);
     if (dpr == 1.0)
-        MvBench::report(what + QStringLiteral(", paint"), ms, floor, kPaintGoal);
+        MvBench::report(what + QStringLiteral(", paint"), paint.milliseconds, paint.floorMilliseconds, kPaintGoal);
     else
-        MvBench::report(what + QStringLiteral(", paint"), ms, floor, QString());
+        MvBench::report(what + QStringLiteral(", paint"), paint.milliseconds, paint.floorMilliseconds, QString());
 
     int hovered = 0;
-    const double hoverMs = MvBench::measure([&] {
-        hovered = (hovered + 37) % kMarkers;
-        strip.hover(hovered);
-        MvBench::renderInto(&strip, &image);
-    });
-    MvBench::report(what + QStringLiteral(", hover moved + paint"), hoverMs, floor, QString());
+    const MvBench::Figure hover = MvBench::measureAgainst(
+        [&] {
+            hovered = (hovered + 37) % kMarkers;
+            strip.hover(hovered);
+            MvBench::renderInto(&strip, &image);
+        },
+        paintFloor);
+    MvBench::report(
+        what + QStringLiteral(", hover moved + paint"), hover.milliseconds, hover.floorMilliseconds, QString());
 
     int offset = 0;
-    const double listMs = MvBench::measure([&] {
-        offset = (offset + 1) % 7;
-        presenter.spread(offset);
-        Q_EMIT presenter.signalMarkerCountChanged();
-        MvBench::renderInto(&strip, &image);
-    });
-    MvBench::report(what + QStringLiteral(", list changed + paint"), listMs, floor, QString());
+    const MvBench::Figure list = MvBench::measureAgainst(
+        [&] {
+            offset = (offset + 1) % 7;
+            presenter.spread(offset);
+            Q_EMIT presenter.signalMarkerCountChanged();
+            MvBench::renderInto(&strip, &image);
+        },
+        paintFloor);
+    MvBench::report(
+        what + QStringLiteral(", list changed + paint"), list.milliseconds, list.floorMilliseconds, QString());
 }
 
 void markerStrip()

@@ -84,18 +84,20 @@ void playheadStep()
     QCoreApplication::processEvents();
 
     QImage target = MvBench::targetImage(window.size(), 1.0);
-    const double floor = MvBench::widgetFloor(window.size(), &target);
+    MvBench::FloorWidget floor(window.size());
     ruler.paints = ruler.wholePaints = strip.paints = strip.wholePaints = 0;
     qint64 frame = first;
     int steps = 0;
-    const double ms = MvBench::measure([&] {
-        frame = frame >= last ? first : frame + 1;
-        playhead->setCurrentFrame(frame);
-        QCoreApplication::sendPostedEvents(&window, QEvent::UpdateRequest);
-        ++steps;
-    });
-    MvBench::report(QStringLiteral("playhead step, window %1x%2, repaint of what moved").arg(kWidth).arg(kHeight), ms,
-        floor, QStringLiteral("(floor: filling the whole window once)"));
+    const MvBench::Figure figure = MvBench::measureAgainst(
+        [&] {
+            frame = frame >= last ? first : frame + 1;
+            playhead->setCurrentFrame(frame);
+            QCoreApplication::sendPostedEvents(&window, QEvent::UpdateRequest);
+            ++steps;
+        },
+        [&] { MvBench::renderInto(&floor, &target); });
+    MvBench::report(QStringLiteral("playhead step, window %1x%2, repaint of what moved").arg(kWidth).arg(kHeight),
+        figure.milliseconds, figure.floorMilliseconds, QStringLiteral("(floor: filling the whole window once)"));
     std::printf("  in %d steps: ruler painted %d times (%d whole), render strip %d times (%d whole)\n", steps,
         ruler.paints, ruler.wholePaints, strip.paints, strip.wholePaints);
 }

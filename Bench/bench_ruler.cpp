@@ -59,12 +59,13 @@ void rulerPaint()
     for (double dpr : { 1.0, 2.0, 1.25 }) {
         MvScreen::setDevicePixelRatio(dpr);
         QImage image = MvBench::targetImage(QSize(kWidth, kHeight), dpr);
-        const double floor = MvBench::widgetFloor(QSize(kWidth, kHeight), &image);
+        MvBench::FloorWidget floor(QSize(kWidth, kHeight));
         for (qint64 total : { qint64(1800), qint64(30 * 3600 * 10) }) {
             for (Zoom zoom : { Zoom::Out, Zoom::Middle, Zoom::In }) {
                 MvPureTimelineRulerWidget widget;
                 setUp(&widget, total, zoom);
-                const double ms = MvBench::measure([&] { MvBench::renderInto(&widget, &image); });
+                const MvBench::Figure figure = MvBench::measureAgainst(
+                    [&] { MvBench::renderInto(&widget, &image); }, [&] { MvBench::renderInto(&floor, &image); });
                 const QString name = QStringLiteral("ruler %1x%2 @%3, %4, %5")
                                          .arg(kWidth)
                                          .arg(kHeight)
@@ -72,9 +73,10 @@ void rulerPaint()
                                          .arg(total == 1800 ? QStringLiteral("1 minute") : QStringLiteral("10 hours"))
                                          .arg(QLatin1String(zoomName(zoom)));
                 if (dpr == 1.0 || dpr == 2.0)
-                    MvBench::report(name, ms, floor, kRulerGoal);
+                    MvBench::report(name, figure.milliseconds, figure.floorMilliseconds, kRulerGoal);
                 else
-                    MvBench::report(name, ms, floor, QStringLiteral("(fractional scale, no goal)"));
+                    MvBench::report(name, figure.milliseconds, figure.floorMilliseconds,
+                        QStringLiteral("(fractional scale, no goal)"));
             }
         }
     }
@@ -85,20 +87,22 @@ void rulerPaint()
 void rulerScroll()
 {
     QImage image = MvBench::targetImage(QSize(kWidth, kHeight), 1.0);
-    const double floor = MvBench::widgetFloor(QSize(kWidth, kHeight), &image);
+    MvBench::FloorWidget floor(QSize(kWidth, kHeight));
     MvPureTimelineRulerWidget widget;
     setUp(&widget, 30 * 3600 * 10, Zoom::Middle);
     IMvTimelineRuler* ruler = widget.ruler();
     const qint64 first = ruler->visibleStartFrame();
     const qint64 visible = ruler->visibleFrames();
     qint64 shift = 0;
-    const double ms = MvBench::measure([&] {
-        shift = (shift + 1) % 5000;
-        ruler->setVisualRange(first + shift, first + shift + visible - 1);
-        MvBench::renderInto(&widget, &image);
-    });
-    MvBench::report(QStringLiteral("ruler @1, 10 hours, scrolled by a frame per paint"), ms, floor,
-        QStringLiteral("(labels move every paint, no goal)"));
+    const MvBench::Figure figure = MvBench::measureAgainst(
+        [&] {
+            shift = (shift + 1) % 5000;
+            ruler->setVisualRange(first + shift, first + shift + visible - 1);
+            MvBench::renderInto(&widget, &image);
+        },
+        [&] { MvBench::renderInto(&floor, &image); });
+    MvBench::report(QStringLiteral("ruler @1, 10 hours, scrolled by a frame per paint"), figure.milliseconds,
+        figure.floorMilliseconds, QStringLiteral("(labels move every paint, no goal)"));
 }
 
 void timecodes()

@@ -51,22 +51,26 @@ void measureStrip(bool zoomedIn, double dpr)
     service->setSegments(first);
 
     QImage image = MvBench::targetImage(strip.size(), dpr);
-    const double floor = MvBench::widgetFloor(strip.size(), &image);
+    MvBench::FloorWidget floor(strip.size());
+    const auto paintFloor = [&] { MvBench::renderInto(&floor, &image); };
     const QString what = QStringLiteral("render strip @%1, %2 segments, %3")
                              .arg(dpr)
                              .arg(kSegments)
                              .arg(zoomedIn ? QStringLiteral("zoomed in") : QStringLiteral("zoomed out"));
-    const double paintMs = MvBench::measure([&] { MvBench::renderInto(&strip, &image); });
-    MvBench::report(what + QStringLiteral(", paint"), paintMs, floor, kPaintGoal);
+    const MvBench::Figure paint = MvBench::measureAgainst([&] { MvBench::renderInto(&strip, &image); }, paintFloor);
+    MvBench::report(what + QStringLiteral(", paint"), paint.milliseconds, paint.floorMilliseconds, kPaintGoal);
 
     bool flip = false;
-    const double ms = MvBench::measure([&] {
-        // Each change of the list makes the strip rebuild; then it is painted.
-        flip = !flip;
-        service->setSegments(flip ? second : first);
-        MvBench::renderInto(&strip, &image);
-    });
-    MvBench::report(what + QStringLiteral(", rebuild + paint"), ms, floor, QStringLiteral("(walks every segment)"));
+    const MvBench::Figure rebuild = MvBench::measureAgainst(
+        [&] {
+            // Each change of the list makes the strip rebuild; then it is painted.
+            flip = !flip;
+            service->setSegments(flip ? second : first);
+            MvBench::renderInto(&strip, &image);
+        },
+        paintFloor);
+    MvBench::report(what + QStringLiteral(", rebuild + paint"), rebuild.milliseconds, rebuild.floorMilliseconds,
+        QStringLiteral("(walks every segment)"));
 }
 
 void renderStrip()
