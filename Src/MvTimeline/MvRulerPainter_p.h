@@ -8,9 +8,13 @@
 // 1/64 of a device pixel and covers a pixel when its centre lies after the left (top) edge and
 // not after the right (bottom) edge.
 
+#include "MvRulerLabelCache_p.h"
 #include "MvRulerTickLayout_p.h"
 #include "MvTimelineGlobal.h"
 
+#include <QFont>
+#include <QRect>
+#include <QTransform>
 #include <QVector>
 
 class IMvTimelineRuler;
@@ -33,11 +37,33 @@ struct MvPixelSpan
     int x1 = 0;
 };
 
+// What a ruler keeps from one paint to the next: the layout of the last view with its labels'
+// texts, the labels already drawn, the tick rectangles' buffer, and the label width of the last
+// font.
+struct MvRulerPaintCache
+{
+    MvRulerLayout layout;
+    MvRulerLayoutInput input; // what `layout` was made from
+    int numerator = 0; // the rate of labelTexts
+    int denominator = 0;
+    bool laidOut = false;
+    QVector<QString> labelTexts; // the time code of each label of `layout`
+    MvRulerLabelCache labels;
+    QVector<QRect> tickRects; // every tick of `layout` in device pixels under tickTransform
+    QTransform tickTransform;
+    double tickWidth = 0.0;
+    bool ticksPlaced = false;
+    QVector<QRect> shownTicks; // the ticks of tickRects that meet the painted area
+    QFont labelFont;
+    int labelDpi = 0;
+    int labelWidth = -1; // of "00:00:00:00" in labelFont, -1 until measured
+};
+
 namespace MvRulerPainter {
-// The whole ruler: background, labels and ticks of `ruler` over `rect`. `scratch` keeps its
-// buffers between paints. Nothing is drawn without a ruler.
+// The whole ruler: background, labels and ticks of `ruler` over `rect`, and nothing without a
+// ruler. Only what meets the painted area (the exposed region, the painter's clip) is drawn.
 MVTIMELINE_EXPORT void paint(
-    QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerLayout& scratch);
+    QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerPaintCache& cache);
 
 // The ticks of a layout as rectangles (left, top, tickWidth, height + dy), filled with `color`.
 MVTIMELINE_EXPORT void fillTicks(

@@ -152,7 +152,7 @@ void MvTimelineRulerPresenterPrivate::paint(QWidget* widget)
     if (!widget || !ruler)
         return;
     QPainter painter(widget);
-    MvRulerPainter::paint(painter, widget->rect(), widget->palette().brush(QPalette::Window), ruler, layout);
+    MvRulerPainter::paint(painter, widget->rect(), widget->palette().brush(QPalette::Window), ruler, paintCache);
 }
 
 MvTimelineRulerPresenter::MvTimelineRulerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
