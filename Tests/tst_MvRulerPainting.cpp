@@ -6,6 +6,7 @@
 #include "MvRulerPainter_p.h"
 #include "MvScreen.h"
 #include "MvSkinStyle.h"
+#include "MvStripPainter_p.h"
 #include "MvTimelineRulerPresenter.h"
 
 #include <QPainter>
@@ -134,6 +135,8 @@ private Q_SLOTS:
     void fastPaintEqualsThePathFill();
     void stripPaintEqualsThePathFill_data();
     void stripPaintEqualsThePathFill();
+    void stripWithManyRunsPaintsOneRowOfPixels_data();
+    void stripWithManyRunsPaintsOneRowOfPixels();
     void labelsAreCopiedOnlyWhereTheyComeOutTheSame_data();
     void labelsAreCopiedOnlyWhereTheyComeOutTheSame();
     void labelCacheStaysBoundedWhileScrolling();
@@ -197,10 +200,10 @@ void tst_MvRulerPainting::stripPaintEqualsThePathFill()
     MvMemoryRuler ruler;
     setUpRuler(&ruler, total, zoomSteps, current);
 
-    // The render strip over random stretches, some of them reversed.
+    // The render strip over random stretches, some of them reversed, many sharing device pixels.
     constexpr int stripHeight = 6;
     QRandomGenerator random(42);
-    QVector<MvPixelSpan> spans[2];
+    MvStripRuns strip;
     QPainterPath paths[2];
     for (int i = 0; i < 3000; ++i) {
         const qint64 start = qint64(random.bounded(int(total)));
@@ -209,26 +212,78 @@ void tst_MvRulerPainting::stripPaintEqualsThePathFill()
         if (end < start)
             continue;
         const MvPixelSpan span { ruler.frameToPixel(start), ruler.frameToPixel(end) };
-        spans[kind].append(span);
+        (kind == 0 ? strip.finishedSpans() : strip.unfinishedSpans()).append(span);
         paths[kind].addRect(QRectF(span.x0, 0, span.x1 - span.x0, stripHeight));
+        paths[kind].setFillRule(Qt::WindingFill);
     }
-    const QColor colors[2] = { QColor(40, 160, 90), QColor(200, 70, 60) };
-    QImage fast = blankImage(kWidth + 1, stripHeight, dpr);
+    strip.rebuild(1.0); // the paint works the runs out again for the image's scale and offset
+    // Opaque colours, and colours one sees through (the finished one shows under the unfinished one).
+    for (int alpha : { 255, 150 }) {
+        const QColor colors[2] = { QColor(40, 160, 90, alpha), QColor(200, 70, 60, alpha) };
+        QImage fast = blankImage(kWidth + 1, stripHeight, dpr);
+        QImage reference = fast;
+        QPainter fastPainter(&fast);
+        QPainter referencePainter(&reference);
+        fastPainter.translate(offset, 0);
+        referencePainter.translate(offset, 0);
+        strip.paint(fastPainter, kWidth, stripHeight, colors[0], colors[1]);
+        referencePainter.setPen(Qt::NoPen);
+        referencePainter.fillPath(paths[0], colors[0]); // unfinished over finished
+        referencePainter.fillPath(paths[1], colors[1]);
+        fastPainter.end();
+        referencePainter.end();
+        compareEveryPixel(fast, reference);
+    }
+    QVERIFY(!strip.runs().isEmpty());
+}
+
+void tst_MvRulerPainting::stripWithManyRunsPaintsOneRowOfPixels_data()
+{
+    QTest::addColumn<double>("dpr");
+    QTest::addColumn<int>("alpha");
+    for (double dpr : { 1.0, 1.25, 2.0 }) {
+        QTest::addRow("%s opaque", QByteArray::number(dpr).constData()) << dpr << 255;
+        QTest::addRow("%s see-through", QByteArray::number(dpr).constData()) << dpr << 150;
+    }
+}
+
+// Pixels that change state every column: with opaque colours the strip paints each column's
+// final colour in one row of pixels; colours one sees through take a rectangle per run. Both
+// give the pixels of the two path fills.
+void tst_MvRulerPainting::stripWithManyRunsPaintsOneRowOfPixels()
+{
+    QFETCH(double, dpr);
+    QFETCH(int, alpha);
+    constexpr int stripHeight = 6;
+    MvStripRuns strip;
+    QPainterPath paths[2];
+    for (int x = 0; x < 300; ++x) {
+        if (x % 10 == 9)
+            continue; // a gap
+        for (int kind : { 0, 1 }) {
+            if (x % 3 == kind || x % 3 == 2) { // finished, to render, both
+                (kind == 0 ? strip.finishedSpans() : strip.unfinishedSpans()).append({ x, x + 1 });
+                paths[kind].addRect(QRectF(x, 0, 1, stripHeight));
+            }
+        }
+    }
+    strip.rebuild(1.0);
+    QVERIFY(strip.runs().size() > 100);
+    const QColor colors[2] = { QColor(40, 160, 90, alpha), QColor(200, 70, 60, alpha) };
+    QImage fast = blankImage(320, stripHeight, dpr);
     QImage reference = fast;
     QPainter fastPainter(&fast);
     QPainter referencePainter(&reference);
-    fastPainter.translate(offset, 0);
-    referencePainter.translate(offset, 0);
+    fastPainter.translate(3.4, 0);
+    referencePainter.translate(3.4, 0);
+    strip.paint(fastPainter, 310, stripHeight, colors[0], colors[1]);
     referencePainter.setPen(Qt::NoPen);
-    for (int kind : { 0, 1 }) { // unfinished over finished
-        MvStripPainter::mergeSpans(&spans[kind]);
-        MvStripPainter::fillSpans(fastPainter, spans[kind], kWidth, stripHeight, colors[kind]);
-        paths[kind].setFillRule(Qt::WindingFill);
-        referencePainter.fillPath(paths[kind], colors[kind]);
-    }
+    referencePainter.fillPath(paths[0], colors[0]);
+    referencePainter.fillPath(paths[1], colors[1]);
     fastPainter.end();
     referencePainter.end();
     compareEveryPixel(fast, reference);
+    QCOMPARE(strip.lastMethod(), alpha == 255 ? MvStripRuns::Row : MvStripRuns::Rectangles);
 }
 
 void tst_MvRulerPainting::labelsAreCopiedOnlyWhereTheyComeOutTheSame_data()

@@ -48,12 +48,55 @@ QRect coveredPixels(const QTransform& toDevice, const QRectF& rect)
 
 }
 
+namespace MvExactFill {
+
+namespace {
+// std::llround (halves away from zero) without the library call, for |value| < 2^52.
+qint64 roundHalfAway(double value)
+{
+    const qint64 whole = qint64(value); // toward zero
+    const double fraction = value - double(whole); // exact
+    return fraction >= 0.5 ? whole + 1 : fraction <= -0.5 ? whole - 1 : whole;
+}
+}
+
+int firstCentreAfter(double device)
+{
+    // The filler works in 26.6 fixed point; a pixel k has its centre at 64k + 32.
+    const qint64 fixed = roundHalfAway(device * 64.0);
+    const qint64 shifted = fixed - 32;
+    const qint64 below = shifted >= 0 ? shifted / 64 : -((-shifted + 63) / 64);
+    return int(below + 1);
+}
+
+Rows rowsCovered(const QTransform& t, double top, double height)
+{
+    const double bottom = top + height;
+    return { firstCentreAfter(top * t.m22() + t.dy()), firstCentreAfter(bottom * t.m22() + t.dy()) };
+}
+
+bool canSnap(const QPainter& painter)
+{
+    return painter.deviceTransform().type() <= QTransform::TxScale && !painter.testRenderHint(QPainter::Antialiasing);
+}
+
+void fillDevice(QPainter& painter, const QTransform& inverse, int x0, int y0, int x1, int y1, const QColor& color)
+{
+    painter.fillRect(inverse.mapRect(QRectF(x0, y0, x1 - x0, y1 - y0)), color);
+}
+
+}
+
 MvDeviceClip::MvDeviceClip(const QPainter& painter)
 {
     QRegion area;
     if (QPaintEngine* engine = painter.paintEngine()) {
-        // The engine keeps the exposed region of the widget being painted, in device pixels.
+        // The engine keeps the exposed region of the widget being painted, in device pixels;
+        // without one, the device itself bounds the paint.
         area = engine->systemClip();
+        const QPaintDevice* device = engine->paintDevice();
+        if (area.isEmpty() && device)
+            area = QRect(0, 0, device->width(), device->height());
         m_bounded = !area.isEmpty();
     }
     if (painter.hasClipping()) {

@@ -4,13 +4,36 @@
 // prepared earlier (ruler labels, tick rows, the marker strip) and must give the very pixels that
 // painting them anew would give.
 
+#include "MvTimelineGlobal.h"
+
 #include <QImage>
 #include <QPair>
 #include <QRect>
 #include <QTransform>
 #include <QVector>
 
+class QColor;
 class QPainter;
+
+// Filling logical rectangles pixel for pixel as a QPainterPath fill would: the filler rounds
+// coordinates to 1/64 of a device pixel and covers a pixel when its centre lies after the left
+// (top) edge and not after the right (bottom) edge.
+namespace MvExactFill {
+// The first device pixel whose centre lies after the device coordinate.
+MVTIMELINE_EXPORT int firstCentreAfter(double device);
+// Device rows [first, last) that a fill from `top` over `height` (logical) covers.
+struct Rows
+{
+    int first = 0;
+    int last = 0;
+};
+Rows rowsCovered(const QTransform& toDevice, double top, double height);
+// Fills device pixels [x0, x1) x [y0, y1). fillRect rounds the mapped rectangle to whole device
+// pixels when the transform only scales, so handing it the exact preimage hits those pixels.
+void fillDevice(QPainter& painter, const QTransform& inverse, int x0, int y0, int x1, int y1, const QColor& color);
+// True when the painter only scales and translates, the case the snapping reproduces.
+MVTIMELINE_EXPORT bool canSnap(const QPainter& painter);
+}
 
 namespace MvDevicePixels {
 // The format of the image the painter draws into, when that is a raster image of 32-bit pixels
@@ -27,8 +50,8 @@ QRect coveredPixels(const QTransform& toDevice, const QRectF& rect);
 }
 
 // Where a paint lands, in device pixels: the exposed region of a widget (the engine's system
-// clip) and the painter's own clip, by their bounding columns. An image painted without a clip
-// is unbounded.
+// clip) or else the paint device, and the painter's own clip, by their bounding columns.
+// Unbounded only when none of them is known.
 class MvDeviceClip
 {
 public:

@@ -15,54 +15,7 @@
 #include <cmath>
 #include <limits>
 
-namespace MvExactFill {
-
-// std::llround (halves away from zero) without the library call, for |value| < 2^52.
-static qint64 roundHalfAway(double value)
-{
-    const qint64 whole = qint64(value); // toward zero
-    const double fraction = value - double(whole); // exact
-    return fraction >= 0.5 ? whole + 1 : fraction <= -0.5 ? whole - 1 : whole;
-}
-
-int firstCentreAfter(double device)
-{
-    // The filler works in 26.6 fixed point; a pixel k has its centre at 64k + 32.
-    const qint64 fixed = roundHalfAway(device * 64.0);
-    const qint64 shifted = fixed - 32;
-    const qint64 below = shifted >= 0 ? shifted / 64 : -((-shifted + 63) / 64);
-    return int(below + 1);
-}
-
-bool canSnap(const QPainter& painter)
-{
-    return painter.deviceTransform().type() <= QTransform::TxScale && !painter.testRenderHint(QPainter::Antialiasing);
-}
-
-// Fills device pixels [x0, x1) x [y0, y1). fillRect rounds the mapped rectangle to whole device
-// pixels when the transform only scales, so handing it the exact preimage hits those pixels.
-static void fillDevice(
-    QPainter& painter, const QTransform& inverse, int x0, int y0, int x1, int y1, const QColor& color)
-{
-    painter.fillRect(inverse.mapRect(QRectF(x0, y0, x1 - x0, y1 - y0)), color);
-}
-
-}
-
 namespace {
-
-struct RowSpan
-{
-    int first = 0;
-    int last = 0; // exclusive
-};
-
-RowSpan deviceRows(const QTransform& t, double top, double height)
-{
-    const double bottom = top + height;
-    return { MvExactFill::firstCentreAfter(top * t.m22() + t.dy()),
-        MvExactFill::firstCentreAfter(bottom * t.m22() + t.dy()) };
-}
 
 // Device pixels a label drawn as text may reach beyond its rectangle.
 constexpr int kLabelOverhang = 2;
@@ -105,16 +58,16 @@ const QVector<QRect>& placeTicks(const QTransform& t, double tickWidth, int heig
     const double tickHeight = double(height + dy);
     // Ticks come in two heights; their rows are worked out once per height.
     int knownTop[2] = { std::numeric_limits<int>::min(), std::numeric_limits<int>::min() };
-    RowSpan knownRows[2];
+    MvExactFill::Rows knownRows[2];
     QVector<QRect>& rects = cache->tickRects;
     rects.resize(0);
     for (const MvRulerTick& tick : qAsConst(cache->layout.ticks)) {
         const int slot = tick.major ? 0 : 1;
         if (knownTop[slot] != tick.top) {
             knownTop[slot] = tick.top;
-            knownRows[slot] = deviceRows(t, tick.top, tickHeight);
+            knownRows[slot] = MvExactFill::rowsCovered(t, tick.top, tickHeight);
         }
-        const RowSpan rows = knownRows[slot];
+        const MvExactFill::Rows rows = knownRows[slot];
         const int x0 = MvExactFill::firstCentreAfter(tick.left * t.m11() + t.dx());
         const int x1 = MvExactFill::firstCentreAfter((double(tick.left) + tickWidth) * t.m11() + t.dx());
         if (x1 > x0 && rows.last > rows.first)
@@ -182,15 +135,15 @@ void fillTicks(
     const double tickHeight = double(height + dy);
     // Ticks come in two heights; their rows are worked out once per height.
     int cachedTop[2] = { layout.ticks.constFirst().top, layout.ticks.constFirst().top };
-    RowSpan cachedRows[2];
-    cachedRows[0] = cachedRows[1] = deviceRows(t, cachedTop[0], tickHeight);
+    MvExactFill::Rows cachedRows[2];
+    cachedRows[0] = cachedRows[1] = MvExactFill::rowsCovered(t, cachedTop[0], tickHeight);
     for (const MvRulerTick& tick : layout.ticks) {
         const int slot = tick.major ? 0 : 1;
         if (cachedTop[slot] != tick.top) {
             cachedTop[slot] = tick.top;
-            cachedRows[slot] = deviceRows(t, tick.top, tickHeight);
+            cachedRows[slot] = MvExactFill::rowsCovered(t, tick.top, tickHeight);
         }
-        const RowSpan rows = cachedRows[slot];
+        const MvExactFill::Rows rows = cachedRows[slot];
         const double right = double(tick.left) + tickWidth;
         const int x0 = MvExactFill::firstCentreAfter(tick.left * t.m11() + t.dx());
         const int x1 = MvExactFill::firstCentreAfter(right * t.m11() + t.dx());
@@ -244,54 +197,6 @@ void paint(
     if (!fillTickRects(painter, clip, tickWidth, input.height, dy, ink, &cache))
         fillTicks(painter, cache.layout, tickWidth, input.height, dy, ink);
     painter.restore();
-}
-
-}
-
-namespace MvStripPainter {
-
-void mergeSpans(QVector<MvPixelSpan>* spans)
-{
-    const auto byStart = [](const MvPixelSpan& a, const MvPixelSpan& b) { return a.x0 < b.x0; };
-    if (!std::is_sorted(spans->cbegin(), spans->cend(), byStart))
-        std::sort(spans->begin(), spans->end(), byStart);
-    int out = 0;
-    for (const MvPixelSpan& span : qAsConst(*spans)) {
-        if (span.x1 <= span.x0)
-            continue; // covers no pixel centre at any scale
-        if (out > 0 && span.x0 <= (*spans)[out - 1].x1) {
-            (*spans)[out - 1].x1 = std::max((*spans)[out - 1].x1, span.x1);
-            continue;
-        }
-        (*spans)[out++] = span;
-    }
-    spans->resize(out);
-}
-
-void fillSpans(QPainter& painter, const QVector<MvPixelSpan>& merged, int width, int height, const QColor& color)
-{
-    // Stretches wholly left of 0 or right of the width only reach pixels outside the widget.
-    auto it = std::lower_bound(
-        merged.cbegin(), merged.cend(), 0, [](const MvPixelSpan& span, int x) { return span.x1 < x; });
-    if (!MvExactFill::canSnap(painter)) {
-        QPainterPath path;
-        path.setFillRule(Qt::WindingFill);
-        for (; it != merged.cend() && it->x0 <= width; ++it)
-            path.addRect(QRectF(it->x0, 0, it->x1 - it->x0, height));
-        painter.fillPath(path, color);
-        return;
-    }
-    const QTransform t = painter.deviceTransform();
-    const QTransform inverse = t.inverted();
-    const RowSpan rows = deviceRows(t, 0.0, double(height));
-    if (rows.last <= rows.first)
-        return;
-    for (; it != merged.cend() && it->x0 <= width; ++it) {
-        const int x0 = MvExactFill::firstCentreAfter(it->x0 * t.m11() + t.dx());
-        const int x1 = MvExactFill::firstCentreAfter(it->x1 * t.m11() + t.dx());
-        if (x1 > x0)
-            MvExactFill::fillDevice(painter, inverse, x0, rows.first, x1, rows.last, color);
-    }
 }
 
 }
