@@ -117,40 +117,25 @@ void fillTicksWithPath(
     painter.fillPath(path, color);
 }
 
-}
-
-namespace MvRulerPainter {
-
-void fillTicks(
-    QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color)
+// The ticks one rectangle at a time, for targets that cannot take them in one call; as paths
+// when the painter does more than scale and translate.
+void fillTicksOneByOne(
+    QPainter& painter, double tickWidth, int height, int dy, const QColor& ink, MvRulerPaintCache* cache)
 {
-    if (layout.ticks.isEmpty())
-        return;
     if (!MvExactFill::canSnap(painter)) {
-        fillTicksWithPath(painter, layout, tickWidth, height, dy, color);
+        fillTicksWithPath(painter, cache->layout, tickWidth, height, dy, ink);
         return;
     }
     const QTransform t = painter.deviceTransform();
     const QTransform inverse = t.inverted();
-    const double tickHeight = double(height + dy);
-    // Ticks come in two heights; their rows are worked out once per height.
-    int cachedTop[2] = { layout.ticks.constFirst().top, layout.ticks.constFirst().top };
-    MvExactFill::Rows cachedRows[2];
-    cachedRows[0] = cachedRows[1] = MvExactFill::rowsCovered(t, cachedTop[0], tickHeight);
-    for (const MvRulerTick& tick : layout.ticks) {
-        const int slot = tick.major ? 0 : 1;
-        if (cachedTop[slot] != tick.top) {
-            cachedTop[slot] = tick.top;
-            cachedRows[slot] = MvExactFill::rowsCovered(t, tick.top, tickHeight);
-        }
-        const MvExactFill::Rows rows = cachedRows[slot];
-        const double right = double(tick.left) + tickWidth;
-        const int x0 = MvExactFill::firstCentreAfter(tick.left * t.m11() + t.dx());
-        const int x1 = MvExactFill::firstCentreAfter(right * t.m11() + t.dx());
-        if (x1 > x0 && rows.last > rows.first)
-            MvExactFill::fillDevice(painter, inverse, x0, rows.first, x1, rows.last, color);
-    }
+    for (const QRect& rect : placeTicks(t, tickWidth, height, dy, cache))
+        MvExactFill::fillDevice(
+            painter, inverse, rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height(), ink);
 }
+
+}
+
+namespace MvRulerPainter {
 
 void paint(
     QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerPaintCache& cache)
@@ -195,7 +180,7 @@ void paint(
 
     const double tickWidth = 1.0 / MvScreen::devicePixelRatio();
     if (!fillTickRects(painter, clip, tickWidth, input.height, dy, ink, &cache))
-        fillTicks(painter, cache.layout, tickWidth, input.height, dy, ink);
+        fillTicksOneByOne(painter, tickWidth, input.height, dy, ink, &cache);
     painter.restore();
 }
 

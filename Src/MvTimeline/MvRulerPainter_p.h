@@ -50,7 +50,4 @@ namespace MvRulerPainter {
 MVTIMELINE_EXPORT void paint(
     QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerPaintCache& cache);
 
-// The ticks of a layout as rectangles (left, top, tickWidth, height + dy), filled with `color`.
-MVTIMELINE_EXPORT void fillTicks(
-    QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color);
 }
