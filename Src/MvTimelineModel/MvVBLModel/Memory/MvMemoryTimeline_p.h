@@ -71,6 +71,9 @@ public:
     void checkItems(QStringList& problems) const;
     QString clipText(const MvMemoryClip* clip) const;
     QString clipId(const MvMemoryClip* clip) const;
+    // Composed texts (MvMemoryTextContainer.cpp): layers of their own for a copy of an item.
+    void copyChildren(MvMemoryClip* copy, const QList<MvMemoryClip*>& children);
+    void checkChildren(QStringList& problems) const;
 
     MvMemoryTimeline* q_ptr;
     Q_DECLARE_PUBLIC(MvMemoryTimeline)
