@@ -294,6 +294,42 @@ void addRequestRows()
         -1);
 }
 
+// Library resources, composed texts and panel requests.
+void addPanelRows()
+{
+    using P = MvSampleHost;
+    row(
+        "similar resources and text layers with nothing selected", nothing,
+        [](P& p) {
+            p.presenter.searchSimilarResource();
+            p.presenter.selectAllSubTextClips();
+            return done(p.presenter.canSearchSimilarResource() || p.presenter.canSelectAllSubTextClips());
+        },
+        false, QStringLiteral("select text clips: 0, is not 1|16|MvTimelinePresenter::selectAllSubTextClips"));
+    row(
+        "panels for no clip", nothing,
+        [](P& p) {
+            p.presenter.showKeyFrameCustomizePanel(nullptr);
+            p.presenter.addAnimation();
+            p.presenter.showAdvancedEdit(true);
+            p.presenter.openAudioPropertyPanel();
+            return QVariant(p.presenter.getPropertyType(nullptr));
+        },
+        PropertyType_None);
+    row(
+        "a picked keyframe at the 64-bit extremes",
+        [](P& p) {
+            p.select({ p.clip(2) });
+            p.timeline.playhead()->setCurrentFrame(p.timeline.duration());
+        },
+        [](P& p) {
+            // Far past the end: the playhead stays at the end, where it was.
+            p.presenter.selectedKeyFrameChanged(p.clip(2), kMaxFrame);
+            return QVariant(p.timeline.playhead()->currentFrame() == p.timeline.duration());
+        },
+        true);
+}
+
 // Keyframes.
 void addKeyFrameRows()
 {
@@ -308,10 +344,11 @@ void addKeyFrameRows()
     row(
         "keyframe at the 64-bit extremes", nothing,
         [](P& p) {
-            return done(p.keyFrames().addVideoDefaultKeyFrame(p.clip(0), kMaxFrame)
-                || p.keyFrames().addVideoDefaultKeyFrame(p.clip(0), kMinFrame)
-                || p.keyFrames().addAudioDefaultKeyFrame(p.clip(1), kMaxFrame)
-                || p.keyFrames().addAudioDefaultKeyFrame(p.clip(1), kMinFrame));
+            // Clips that do not start at 0: the frame is taken into the clip's own frames.
+            return done(p.keyFrames().addVideoDefaultKeyFrame(p.clip(2), kMaxFrame)
+                || p.keyFrames().addVideoDefaultKeyFrame(p.clip(2), kMinFrame)
+                || p.keyFrames().addAudioDefaultKeyFrame(p.clip(12), kMaxFrame)
+                || p.keyFrames().addAudioDefaultKeyFrame(p.clip(12), kMinFrame));
         },
         false);
     // (A clip of another timeline may take one: a compound clip's inner timeline is edited from outside.)
@@ -716,6 +753,7 @@ void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
     addTrimDeleteAndMoveRows();
     addItemRows();
     addRequestRows();
+    addPanelRows();
     addKeyFrameRows();
     addPresenterRows();
 }

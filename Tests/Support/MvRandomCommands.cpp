@@ -52,11 +52,13 @@ QString frameText(qint64 frame)
 // The marker dialog is modal: the user's answer is given from inside its event loop.
 QString editMarker(MvRandomWorld& world)
 {
-    const int choice = world.below(3);
+    // Closed, OK or DELETE; an OK mostly with a new name, colour or comment.
+    const int choice = world.chance(20) ? 0 : (world.chance(70) ? 1 : 2);
     const int colorIndex = world.below(MvMarkerPresenter::markerPalette().size());
-    const QString name = world.chance(50) ? QStringLiteral("renamed") : QString();
+    const QString name = world.chance(70) ? QStringLiteral("name %1").arg(world.below(3)) : QString();
+    const QString comment = world.chance(50) ? QStringLiteral("comment %1").arg(world.below(3)) : QString();
     auto answered = std::make_shared<QString>(QStringLiteral("no dialog"));
-    QTimer::singleShot(0, [answered, choice, colorIndex, name]() {
+    QTimer::singleShot(0, [answered, choice, colorIndex, name, comment]() {
         auto* dialog = qobject_cast<MvMarkerEditDialog*>(QApplication::activeModalWidget());
         if (!dialog)
             return;
@@ -64,9 +66,12 @@ QString editMarker(MvRandomWorld& world)
             *answered = QStringLiteral("dialog closed");
             dialog->reject();
         } else if (choice == 1) {
-            *answered = QStringLiteral("dialog OK with colour %1, name \"%2\"").arg(colorIndex).arg(name);
+            *answered = QStringLiteral("dialog OK with colour %1, name \"%2\", comment \"%3\"")
+                            .arg(colorIndex)
+                            .arg(name, comment);
             dialog->panel()->colorRow()->setSelectedIndex(colorIndex);
             dialog->panel()->nameEdit()->setPlainText(name);
+            dialog->panel()->commentEdit()->setPlainText(comment);
             dialog->okButton()->click();
         } else {
             *answered = QStringLiteral("dialog DELETE");
@@ -448,6 +453,34 @@ QVector<MvRandomCommand> playheadCommands()
     };
 }
 
+// Library resources, composed texts and the requests to the host's panels.
+QVector<MvRandomCommand> panelCommands()
+{
+    return {
+        onSelectionVoid("searchSimilarResource", 1, [](W& w) { w.presenter().searchSimilarResource(); }),
+        onSelectionVoid("selectAllSubTextClips", 1, [](W& w) { w.presenter().selectAllSubTextClips(); }),
+        onSelectionVoid("showAdvancedColor", 1, [](W& w) { w.presenter().showAdvancedColor(); }),
+        onSelectionVoid("showAdvancedEdit", 1, [](W& w) { w.presenter().showAdvancedEdit(w.chance(50)); }),
+        onSelectionVoid("openAudioPropertyPanel", 1, [](W& w) { w.presenter().openAudioPropertyPanel(); }),
+        onSelectionVoid("addAnimation", 1, [](W& w) { w.presenter().addAnimation(); }),
+        { QStringLiteral("showKeyFrameCustomizePanel"), 1,
+            [](W& w) -> QString {
+                IMvClip* clip = w.focusedClip();
+                w.presenter().showKeyFrameCustomizePanel(clip);
+                return QStringLiteral("showKeyFrameCustomizePanel(%1)").arg(W::nameOf(clip));
+            } },
+        { QStringLiteral("selectedKeyFrameChanged"), 2,
+            [](W& w) -> QString {
+                // A keyframe picked in the keyframe panel, mostly one the clip has.
+                IMvClip* clip = w.focusedClip();
+                QList<qint64> keys = clip ? clip->keyFrames(false) + clip->keyFrames(true) : QList<qint64>();
+                const qint64 frame = keys.isEmpty() || w.chance(20) ? w.frame() : keys.at(w.below(keys.size()));
+                w.presenter().selectedKeyFrameChanged(clip, frame);
+                return QStringLiteral("selectedKeyFrameChanged(%1, %2)").arg(W::nameOf(clip)).arg(frame);
+            } },
+    };
+}
+
 // The host's undo and redo.
 QVector<MvRandomCommand> undoCommands()
 {
@@ -470,7 +503,7 @@ QVector<MvRandomCommand> undoCommands()
 const QVector<MvRandomCommand>& mvRandomCommands()
 {
     static const QVector<MvRandomCommand> table = focusCommands() + viewCommands() + clipEditCommands() + moveCommands()
-        + itemCommands() + keyFrameCommands() + playheadCommands() + undoCommands();
+        + itemCommands() + keyFrameCommands() + playheadCommands() + panelCommands() + undoCommands();
     return table;
 }
 

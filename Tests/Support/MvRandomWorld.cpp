@@ -121,6 +121,11 @@ qint64 MvRandomWorld::frame()
         return chance(50) ? 0 : duration;
     if (kind < 12)
         return m_timeline->playhead()->currentFrame();
+    if (kind < 14) {
+        // Where a marker stands: the commands that edit the marker under the playhead need one.
+        if (const IMvMarker* picked = marker())
+            return picked->ownerList()->mapToTimeline(picked->frame());
+    }
     return duration > 0 ? qint64(m_random.generate64() % quint64(duration + 1)) : 0;
 }
 
