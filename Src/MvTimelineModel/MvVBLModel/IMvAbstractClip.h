@@ -4,6 +4,7 @@
 #include "IMvKeyFrameSelector.h"
 
 #include <QList>
+#include <QMetaType>
 
 class IMvClip;
 class IMvTimeline;
@@ -79,3 +80,5 @@ public:
     // A selection of every keyframe of that side.
     virtual IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const = 0;
 };
+
+Q_DECLARE_METATYPE(IMvClip*)

@@ -7,6 +7,7 @@
 #include "MvMemoryMarker.h"
 #include "MvMemoryUndoable.h"
 
+#include <QColor>
 #include <QMap>
 
 class MvMemoryTimeline;
@@ -133,6 +134,9 @@ struct MvMemoryClipState
     QMap<int, qint64> freezeFrames; // id -> clip frame
     // What a compound clip shows: a timeline of its own, shared by every copy of the clip.
     MvMemoryTimeline* content = nullptr;
+    // Colours of a text or subtitle clip given at its insertion (invalid: the defaults).
+    QColor textColor;
+    QColor backgroundColor;
 
     bool operator==(const MvMemoryClipState& other) const;
     bool operator!=(const MvMemoryClipState& other) const { return !(*this == other); }
