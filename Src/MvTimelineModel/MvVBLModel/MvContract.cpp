@@ -6,8 +6,10 @@
 #include "IMvColorCompareService.h"
 #include "IMvKeyFrameSelector.h"
 #include "IMvMarker.h"
+#include "IMvResourceInfo.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
+#include "IMvTimelineClip.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
@@ -33,6 +35,8 @@ IMvMarkerModel::~IMvMarkerModel() = default;
 IMvSelection::~IMvSelection() = default;
 IMvSubItemSelection::~IMvSubItemSelection() = default;
 IMvTimeline::~IMvTimeline() = default;
+IMvTimelineClip::~IMvTimelineClip() = default;
+IMvResourceInfo::~IMvResourceInfo() = default;
 IMvPlayheadEventObserver::~IMvPlayheadEventObserver() = default;
 IMvTimelinePlayhead::~IMvTimelinePlayhead() = default;
 IMvTimelineRenderEventObserver::~IMvTimelineRenderEventObserver() = default;

@@ -100,3 +100,27 @@ const char* MvTimelineScrollToTrackMessage::typeName() const
 {
     return "MvTimelineScrollToTrackMessage";
 }
+
+MvMediaLibraryFindSimilarMessage::MvMediaLibraryFindSimilarMessage(
+    const ResourceInfoData& resource, const QString& title, MVVBLMODEL::MvMediaCategoryType category)
+    : MvMessage(MVVBLMODEL::MessageId::MediaLibraryFindSimilar)
+    , m_resource(resource)
+    , m_title(title)
+    , m_category(category)
+{
+}
+
+const char* MvMediaLibraryFindSimilarMessage::typeName() const
+{
+    return "MvMediaLibraryFindSimilarMessage";
+}
+
+MvMediaEditorSelectClipMessage::MvMediaEditorSelectClipMessage()
+    : MvMessage(MVVBLMODEL::MessageId::MediaEditorSelectClip)
+{
+}
+
+const char* MvMediaEditorSelectClipMessage::typeName() const
+{
+    return "MvMediaEditorSelectClipMessage";
+}
