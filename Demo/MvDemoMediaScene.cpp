@@ -10,7 +10,6 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
@@ -208,7 +207,30 @@ int MvDemoMediaScene::askResolution(const QString& name, const QStringList& reso
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout->addWidget(buttons);
+    // Laid out before it is shown, so that its size limits are set before it has a window.
+    dialog.adjustSize();
     return dialog.exec() == QDialog::Accepted ? choice->currentIndex() : -1;
+}
+
+bool MvDemoMediaScene::askToChangeRate(const QString& question, const QString& change, const QString& keep)
+{
+    QDialog dialog(m_dialogParent);
+    dialog.setObjectName(QStringLiteral("projectSettingsQuestion"));
+    dialog.setWindowTitle(tr("Project Settings"));
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* text = new QLabel(question, &dialog);
+    text->setWordWrap(true);
+    layout->addWidget(text);
+    auto* buttons = new QDialogButtonBox(&dialog);
+    QPushButton* adopt = buttons->addButton(change, QDialogButtonBox::AcceptRole);
+    buttons->addButton(keep, QDialogButtonBox::RejectRole);
+    adopt->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    dialog.resize(420, 0);
+    dialog.adjustSize();
+    return dialog.exec() == QDialog::Accepted;
 }
 
 QString MvDemoMediaScene::matchProject(MvMatchProjMediaItemMessage* message)
@@ -222,17 +244,10 @@ QString MvDemoMediaScene::matchProject(MvMatchProjMediaItemMessage* message)
         return tr("the project already runs at %1 fps").arg(rateText(project.numerator, project.denominator));
     const QString mediaRate = rateText(media.numerator, media.denominator);
     const QString projectRate = rateText(project.numerator, project.denominator);
-    bool change = false;
-    if (m_interactive) {
-        QMessageBox box(QMessageBox::Question, tr("Project Settings"),
-            tr("%1 runs at %2 fps; the project runs at %3 fps. Change the project to %2 fps?")
-                .arg(quoted(item), mediaRate, projectRate),
-            QMessageBox::NoButton, m_dialogParent);
-        QPushButton* adopt = box.addButton(tr("Change to %1 fps").arg(mediaRate), QMessageBox::YesRole);
-        box.addButton(tr("Keep %1 fps").arg(projectRate), QMessageBox::NoRole);
-        box.exec();
-        change = box.clickedButton() == adopt;
-    }
+    const bool change = m_interactive
+        && askToChangeRate(tr("%1 runs at %2 fps; the project runs at %3 fps. Change the project to %2 fps?")
+                               .arg(quoted(item), mediaRate, projectRate),
+            tr("Change to %1 fps").arg(mediaRate), tr("Keep %1 fps").arg(projectRate));
     if (!change)
         return tr("the project keeps %1 fps").arg(projectRate);
     m_timeline->setFrameRate(int(media.numerator), int(media.denominator));

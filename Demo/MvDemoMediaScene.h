@@ -51,6 +51,8 @@ private:
     // The index chosen, or -1 when the user cancelled.
     int askResolution(const QString& name, const QStringList& resolutions);
     QString matchProject(MvMatchProjMediaItemMessage* message);
+    // True when the user chose to change the project's rate.
+    bool askToChangeRate(const QString& question, const QString& change, const QString& keep);
 
     MvMemoryTimeline* m_timeline;
     QWidget* m_dialogParent = nullptr;
