@@ -16,12 +16,17 @@
 #include "MvDemoMediaPanel.h"
 #include "MvDemoMediaScene.h"
 #include "MvDemoPresenter.h"
+#include "MvDemoScenario.h"
 #include "MvDemoScene.h"
 #include "MvDemoTimelineColumn.h"
 #include "MvDemoTrackArea.h"
 #include "MvTimelineAddMediaParam.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPushButton>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -193,4 +198,59 @@ void MvDemoWindow::scrollToClips(const QList<IMvClip*>& clips)
         ruler->setVisualRange(from, from + visible - 1);
     }
     m_column->refreshScrollBars();
+}
+
+QList<MvDemoScenario::Step> MvDemoScenario::mediaSteps()
+{
+    return {
+        { QStringLiteral("media-double-click"),
+            [this] {
+                seek(0);
+                doubleClickMedia(QStringLiteral("Sunset timelapse.mp4"));
+            } },
+        { QStringLiteral("media-drop-on-row"),
+            [this] { dropMedia(QStringLiteral("Island map.png"), 40 * 30, 1); } },
+        { QStringLiteral("media-stock-download"),
+            [this] {
+                seek(20 * 30);
+                MvDemoMediaPanel* panel = m_window->mediaPanel();
+                panel->list()->setCurrentRow(panel->rowOf(QStringLiteral("Stock: city lights")));
+                panel->addButton()->click();
+            } },
+        { QStringLiteral("media-compound"),
+            [this] {
+                seek(0);
+                doubleClickMedia(QStringLiteral("Beach sequence"));
+            } },
+        { QStringLiteral("media-compound-into-itself"),
+            [this] { doubleClickMedia(QStringLiteral("This timeline")); } },
+    };
+}
+
+void MvDemoScenario::doubleClickMedia(const QString& name)
+{
+    MvDemoMediaList* list = m_window->mediaPanel()->list();
+    QListWidgetItem* row = list->item(m_window->mediaPanel()->rowOf(name));
+    list->scrollToItem(row);
+    QApplication::processEvents();
+    const QPoint global = list->viewport()->mapToGlobal(list->visualItemRect(row).center());
+    mouse(list->viewport(), QEvent::MouseButtonPress, global, Qt::LeftButton);
+    mouse(list->viewport(), QEvent::MouseButtonRelease, global, Qt::NoButton);
+    mouse(list->viewport(), QEvent::MouseButtonDblClick, global, Qt::LeftButton);
+    mouse(list->viewport(), QEvent::MouseButtonRelease, global, Qt::NoButton);
+}
+
+// What a drag from the panel ends in: the drop events the track area receives.
+void MvDemoScenario::dropMedia(const QString& name, qint64 frame, int trackIndex)
+{
+    MvDemoMediaList* list = m_window->mediaPanel()->list();
+    const int row = m_window->mediaPanel()->rowOf(name);
+    QScopedPointer<QMimeData> data(list->model()->mimeData({ list->model()->index(row, 0) }));
+    MvDemoTrackArea* area = m_window->trackArea();
+    const QPoint at(area->mapping().xOf(frame), area->rowTop(trackIndex) + 8);
+    QDragEnterEvent enter(at, Qt::CopyAction, data.data(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(area, &enter);
+    QDropEvent drop(at, Qt::CopyAction, data.data(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(area, &drop);
+    QApplication::processEvents();
 }
