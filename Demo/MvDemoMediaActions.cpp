@@ -25,10 +25,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
-#include <QMimeData>
-#include <QPushButton>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
 
 using namespace MVVBLMODEL;
 
@@ -110,8 +110,9 @@ void MvDemoWindow::buildMediaMenu()
 
 bool MvDemoWindow::addMedia(MvMemoryMediaItem* item, qint64 frame, int trackIndex)
 {
-    appendJournal(trackIndex < 0 ? tr("add media: %1 at frame %2").arg(quoted(item)).arg(frame)
-                                 : tr("add media: %1 at frame %2 on row %3").arg(quoted(item)).arg(frame).arg(trackIndex));
+    appendJournal(trackIndex < 0
+            ? tr("add media: %1 at frame %2").arg(quoted(item)).arg(frame)
+            : tr("add media: %1 at frame %2 on row %3").arg(quoted(item)).arg(frame).arg(trackIndex));
     QList<IMvAbstractMediaItem*> items { item };
     if (item->isVCGItem())
         items = m_presenter->readyVCGItem(item);
@@ -162,7 +163,8 @@ QString MvDemoWindow::mediaRefusal(MvMemoryMediaItem* item) const
         return tr("%1 was not downloaded.").arg(quoted(item));
     const auto* stock = dynamic_cast<const MvMemoryStockMediaItem*>(item);
     const auto* vcg = dynamic_cast<const MvMemoryVCGMediaItem*>(item);
-    if ((stock && stock->selectedResolution() < 0) || (vcg && vcg->resolutionCount() > 1 && vcg->selectedResolution() < 0))
+    if ((stock && stock->selectedResolution() < 0)
+        || (vcg && vcg->resolutionCount() > 1 && vcg->selectedResolution() < 0))
         return tr("No resolution was chosen for %1.").arg(quoted(item));
     if (const auto* compound = dynamic_cast<const MvMemoryCompoundMediaItem*>(item))
         return compound->isTimelineLoaded() ? QString() : tr("%1 could not be read in time.").arg(quoted(item));
@@ -208,8 +210,7 @@ QList<MvDemoScenario::Step> MvDemoScenario::mediaSteps()
                 seek(0);
                 doubleClickMedia(QStringLiteral("Sunset timelapse.mp4"));
             } },
-        { QStringLiteral("media-drop-on-row"),
-            [this] { dropMedia(QStringLiteral("Island map.png"), 40 * 30, 1); } },
+        { QStringLiteral("media-drop-on-row"), [this] { dropMedia(QStringLiteral("Island map.png"), 40 * 30, 1); } },
         { QStringLiteral("media-stock-download"),
             [this] {
                 seek(20 * 30);
@@ -222,8 +223,7 @@ QList<MvDemoScenario::Step> MvDemoScenario::mediaSteps()
                 seek(0);
                 doubleClickMedia(QStringLiteral("Beach sequence"));
             } },
-        { QStringLiteral("media-compound-into-itself"),
-            [this] { doubleClickMedia(QStringLiteral("This timeline")); } },
+        { QStringLiteral("media-compound-into-itself"), [this] { doubleClickMedia(QStringLiteral("This timeline")); } },
     };
 }
 

@@ -112,7 +112,8 @@ void drawBadge(QPainter& painter, const QString& badge, QRectF& slot)
     const qreal width = QFontMetricsF(font).horizontalAdvance(text) + 6;
     const QRectF box(slot.left(), 2, width, 12);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(badge == QLatin1String("compound") ? QColor(0x10, 0x10, 0x10, 200) : QColor(0xFF, 0xFF, 0xFF, 225));
+    painter.setBrush(
+        badge == QLatin1String("compound") ? QColor(0x10, 0x10, 0x10, 200) : QColor(0xFF, 0xFF, 0xFF, 225));
     painter.drawRoundedRect(box, 2, 2);
     painter.setPen(badge == QLatin1String("compound") ? Qt::white : QColor(0x20, 0x20, 0x20));
     painter.drawText(box, Qt::AlignCenter, text);
@@ -193,7 +194,7 @@ QString MvDemoMediaThumbnail::description(const MvMemoryMediaItem* item)
     }
     if (item->durationMs() == 0)
         return item->mediaType() == MediaType_ScreenRecording ? tr("%1, still recording").arg(kind)
-                                                               : tr("%1, empty").arg(kind);
+                                                              : tr("%1, empty").arg(kind);
     QString text = tr("%1, %2 s").arg(kind).arg(item->durationMs() / 1000);
     if (const MvMemoryMediaInfo* info = item->memoryMediaInfo())
         text += tr(", %1 fps").arg(info->frameRate().numerator / qMax<qint64>(1, info->frameRate().denominator));

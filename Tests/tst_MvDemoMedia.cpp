@@ -32,8 +32,8 @@ class DialogScript : public QObject
 {
 public:
     bool cancelDownload = false;
-    int resolution = -1;       // the index chosen; -1 presses Cancel
-    QString questionButton;    // the text of the button to press on a question
+    int resolution = -1; // the index chosen; -1 presses Cancel
+    QString questionButton; // the text of the button to press on a question
 
     QStringList seen;
 
