@@ -4,6 +4,7 @@
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
 #include "Memory/MvMemoryMarker.h"
+#include "MvBadInputTable.h"
 #include "MvEditFixture.h"
 #include "MvHostFixtures.h"
 #include "MvMarkerEditDialog.h"
@@ -27,48 +28,9 @@
 // were; none may crash or reach past what it was given (the sanitizer build checks that).
 
 using namespace MVVBLMODEL;
-
-using Prepare = std::function<void(MvSampleHost&)>;
-using Call = std::function<QVariant(MvSampleHost&)>;
-using OrphanCall = std::function<QVariant(MvOrphanHost&)>;
-using WidgetCall = std::function<QVariant()>;
-Q_DECLARE_METATYPE(Prepare)
-Q_DECLARE_METATYPE(Call)
-Q_DECLARE_METATYPE(OrphanCall)
-Q_DECLARE_METATYPE(WidgetCall)
+using namespace MvBadInput;
 
 namespace {
-constexpr qint64 kMaxFrame = std::numeric_limits<qint64>::max();
-constexpr qint64 kMinFrame = std::numeric_limits<qint64>::min();
-constexpr int kMaxInt = std::numeric_limits<int>::max();
-constexpr int kMinInt = std::numeric_limits<int>::min();
-
-const Prepare nothing = [](MvSampleHost&) {};
-const Prepare selectOpening = [](MvSampleHost& p) { p.select({ p.clip(0) }); };
-const QVariant kNoResult; // a void command
-
-QVariant done(bool value)
-{
-    return QVariant(value);
-}
-
-// A row of each table: the refusal's log record is "text|level|function", empty when none is due.
-void row(const char* name, const Prepare& prepare, const Call& call, const QVariant& result,
-    const QString& record = QString())
-{
-    QTest::newRow(name) << prepare << call << result << record;
-}
-
-void row(const char* name, const OrphanCall& call, const QVariant& result, const QString& record = QString())
-{
-    QTest::newRow(name) << call << result << record;
-}
-
-void row(const char* name, const WidgetCall& call, const QVariant& result)
-{
-    QTest::newRow(name) << call << result;
-}
-
 QString checkRecord(const MvLogCapture& log, const QString& record)
 {
     if (record.isEmpty())
@@ -754,6 +716,7 @@ void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
     addItemRows();
     addRequestRows();
     addPanelRows();
+    addMediaRows();
     addKeyFrameRows();
     addPresenterRows();
 }
@@ -783,6 +746,7 @@ void tst_MvBadInput::withoutATimelineNothingHappens_data()
     addOrphanCommandRows();
     addOrphanKeyFrameAndPlayheadRows();
     addOrphanRulerRows();
+    addOrphanMediaRows();
 }
 
 void tst_MvBadInput::withoutATimelineNothingHappens()

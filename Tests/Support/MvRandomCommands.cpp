@@ -12,6 +12,7 @@
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerEditPanel.h"
 #include "MvMarkerPresenter.h"
+#include "MvRandomMedia.h"
 #include "MvRandomWorld.h"
 #include "MvTextEdit.h"
 #include "MvTimelinePlayheadPresenter.h"
@@ -481,6 +482,45 @@ QVector<MvRandomCommand> panelCommands()
     };
 }
 
+// What a host asks of the timeline presenter besides editing: the player, the property panel, the
+// mode, the placeholder gap, and clearing the markers (an edit).
+QVector<MvRandomCommand> hostRequestCommands()
+{
+    return {
+        onSelectionVoid("removeAllMarker", 1, [](W& w) { w.presenter().removeAllMarker(); }),
+        onSelection("deleteEmptyClipItem", 1, [](W& w) { return w.presenter().deleteEmptyClipItem(w.chance(50)); }),
+        onSelectionVoid("updateAction", 1, [](W& w) { w.presenter().updateAction(); }),
+        onSelectionVoid("hidePropertyPanel", 1,
+            [](W& w) {
+                if (w.chance(50))
+                    w.presenter().hidePropertyPanel();
+                else
+                    w.presenter().checkHidePropertyPanel();
+            }),
+        { QStringLiteral("player requests"), 1,
+            [](W& w) -> QString {
+                const qint64 frame = w.frame();
+                w.presenter().pauseMediaPlayer();
+                w.presenter().pauseMediaPlayerWithSync();
+                w.presenter().seek(frame);
+                return QStringLiteral("pause, pause with sync, seek(%1)").arg(frame);
+            } },
+        { QStringLiteral("showPropertyPanel"), 1,
+            [](W& w) -> QString {
+                const int page = w.below(6) - 1;
+                w.presenter().showPropertyPanel(page);
+                return call(w, "showPropertyPanel", QString::number(page));
+            } },
+        { QStringLiteral("setModeType"), 1,
+            [](W& w) -> QString {
+                const auto mode = MvTimelinePresenter::MvTimelineModeType(w.below(4));
+                w.presenter().setModeType(mode);
+                w.presenter().showToast(QStringLiteral("mode %1").arg(int(mode)));
+                return QStringLiteral("setModeType(%1), showToast").arg(int(mode));
+            } },
+    };
+}
+
 // The host's undo and redo.
 QVector<MvRandomCommand> undoCommands()
 {
@@ -503,7 +543,8 @@ QVector<MvRandomCommand> undoCommands()
 const QVector<MvRandomCommand>& mvRandomCommands()
 {
     static const QVector<MvRandomCommand> table = focusCommands() + viewCommands() + clipEditCommands() + moveCommands()
-        + itemCommands() + keyFrameCommands() + playheadCommands() + panelCommands() + undoCommands();
+        + itemCommands() + keyFrameCommands() + playheadCommands() + panelCommands() + mvMediaCommands()
+        + hostRequestCommands() + undoCommands();
     return table;
 }
 

@@ -4,9 +4,12 @@
 #include "IMvSelection.h"
 #include "IMvTimelinePlayhead.h"
 #include "Memory/MvMemoryMarker.h"
+#include "Memory/MvMemoryMediaLibrary.h"
 #include "Memory/MvSampleProject.h"
 #include "MvKeyFramePresenter.h"
 #include "MvMessage.h"
+#include "MvRandomMedia.h"
+#include "MvTaskRunner_p.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRulerPresenter.h"
@@ -55,11 +58,15 @@ QList<MvRandomAnswer> randomAnswers()
 }
 
 MvRandomWorld::MvRandomWorld(const TimelineFactory& factory)
-    : m_timeline(factory ? factory() : std::make_unique<MvMemoryTimeline>())
+    : m_media(std::make_unique<MvMemoryMediaLibrary>())
+    , m_timeline(factory ? factory() : std::make_unique<MvMemoryTimeline>())
 {
     MvSampleProject::build(*m_timeline);
+    MvSampleProject::buildMediaLibrary(*m_media, *m_timeline, 0);
     m_presenter = std::make_unique<MvTimelinePresenter>(nullptr, m_timeline.get());
     m_presenter->setScene(&m_scene);
+    // The long tasks of adding media run in order on this thread: a step replays the same way.
+    m_presenter->findChild<MvTaskRunner*>()->setExecutor(MvTaskRunner::callingThreadExecutor());
     m_presenter->initVirtualPlayheadPresenter();
     m_playheadPresenter = std::make_unique<MvTimelinePlayheadPresenter>(m_presenter.get(), nullptr);
     m_playheadPresenter->setScene(&m_scene);
@@ -79,6 +86,7 @@ void MvRandomWorld::answerQuestions()
             return answer;
         });
     }
+    mvAnswerMediaQuestions(*this);
 }
 
 void MvRandomWorld::beginStep(quint32 seed)

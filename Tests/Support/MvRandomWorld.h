@@ -12,6 +12,7 @@
 class IMvAbstractClip;
 class IMvMarker;
 class MvKeyFramePresenter;
+class MvMemoryMediaLibrary;
 class MvMemoryTransition;
 class MvTimelinePlayheadPresenter;
 class MvTimelinePresenter;
@@ -47,6 +48,8 @@ public:
     MvTimelinePlayheadPresenter& playheadPresenter() const { return *m_playheadPresenter; }
     MvTimelineRulerPresenter& rulerPresenter() const { return *m_rulerPresenter; }
     MvRecordingScene& scene() { return m_scene; }
+    // The sample project's media, for the commands that add media.
+    MvMemoryMediaLibrary& media() const { return *m_media; }
 
     // Argument picks. Frames and offsets lean towards the edges where the edit rules change (a
     // clip's first and last frame, the frame after it, frame 0, the end of the timeline).
@@ -70,6 +73,8 @@ private:
     void answerQuestions();
 
     MvRecordingScene m_scene;
+    // Before the timeline: the compound clips on it show timelines the library owns.
+    std::unique_ptr<MvMemoryMediaLibrary> m_media;
     std::unique_ptr<MvMemoryTimeline> m_timeline;
     std::unique_ptr<MvTimelinePresenter> m_presenter;
     std::unique_ptr<MvTimelinePlayheadPresenter> m_playheadPresenter;
