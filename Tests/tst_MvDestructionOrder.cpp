@@ -1,4 +1,5 @@
 #include "IMvUndoRedoService.h"
+#include "Memory/MvMemoryMediaItem.h"
 #include "Memory/MvMemoryPlayhead.h"
 #include "Memory/MvMemoryRenderService.h"
 #include "Memory/MvMemoryTimeline.h"
@@ -11,6 +12,7 @@
 #include "MvPureTimelineRulerWidget.h"
 #include "MvRecordingScene.h"
 #include "MvRulerModel.h"
+#include "MvTimelineAddMediaParam.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePlayheadWidget.h"
 #include "MvTimelinePresenter.h"
@@ -42,18 +44,27 @@ public:
     QList<MarkerItem> markerList() override { return { { 20, 0 }, { 60, 1 } }; }
 };
 
+// A host's timeline presenter that hands out the wait dialog of adding media.
+class HostPresenter : public MvTimelinePresenter
+{
+public:
+    using MvTimelinePresenter::getAddLoadingWgt;
+    using MvTimelinePresenter::MvTimelinePresenter;
+};
+
 // Every object a host makes around one timeline, by the short names the orders use:
 // T timeline presenter, K its keyframe presenter, V its virtual playhead presenter, HV a virtual
 // playhead presenter the host made over T (not a child of T), R ruler
 // presenter, P playhead presenter, M marker presenter, RW ruler widget, PW playhead widget, MW
-// marker widget, S render strip, PR pure ruler, D marker dialog, W the window the widgets may sit in.
+// marker widget, S render strip, PR pure ruler, D marker dialog, WD the wait dialog T made (the host
+// owns it), W the window the widgets may sit in.
 class Host
 {
 public:
     Host(bool presentersInTimeline, bool widgetsInWindow)
     {
         MvSampleProject::build(timeline);
-        auto* presenter = new MvTimelinePresenter(nullptr, &timeline);
+        auto* presenter = new HostPresenter(nullptr, &timeline);
         presenter->setScene(&scene);
         presenter->initVirtualPlayheadPresenter();
         presenter->virtualPlayheadPresenter()->open();
@@ -83,6 +94,7 @@ public:
         MvMarkerParam param;
         param.colors = MvMarkerPresenter::markerPalette();
         addWidget(QStringLiteral("D"), new MvMarkerEditDialog(param, widgetParent), QSize(480, 330));
+        parts.insert(QStringLiteral("WD"), presenter->getAddLoadingWgt());
         playhead->setScene(&scene);
         splitButton = playhead->splitButtonRect().center();
     }
@@ -90,7 +102,7 @@ public:
     ~Host()
     {
         const QStringList widgetsFirst
-            = QString::fromLatin1("D PR S MW PW RW W M P R HV V K T").split(QLatin1Char(' '));
+            = QString::fromLatin1("WD D PR S MW PW RW W M P R HV V K T").split(QLatin1Char(' '));
         for (const QString& name : widgetsFirst)
             destroy(name);
     }
@@ -179,6 +191,11 @@ public:
             presenter->canDeleteItems();
             presenter->splitClips(0, true, false);
             timeline.undoRedoService()->undo();
+            MvTimelineAddMediaParam request;
+            request.mediaItems = { &video };
+            if (presenter->addMedias(request, 0).size() != 1)
+                wrong.append(QStringLiteral("the timeline presenter added no media"));
+            timeline.undoRedoService()->undo();
         }
         QCoreApplication::processEvents();
         return wrong.join(QLatin1String(", "));
@@ -186,6 +203,7 @@ public:
 
     MvMemoryTimeline timeline;
     MvRecordingScene scene;
+    MvMemoryMediaItem video { QStringLiteral("video"), MVVBLMODEL::MediaType_Video, 1000 };
     QMap<QString, QPointer<QObject>> parts;
     QPoint splitButton; // in the playhead widget
 
@@ -220,7 +238,8 @@ private:
 
 const QStringList kAllParts { QStringLiteral("T"), QStringLiteral("K"), QStringLiteral("V"), QStringLiteral("HV"),
     QStringLiteral("R"), QStringLiteral("P"), QStringLiteral("M"), QStringLiteral("RW"), QStringLiteral("PW"),
-    QStringLiteral("MW"), QStringLiteral("S"), QStringLiteral("PR"), QStringLiteral("D"), QStringLiteral("W") };
+    QStringLiteral("MW"), QStringLiteral("S"), QStringLiteral("PR"), QStringLiteral("D"), QStringLiteral("WD"),
+    QStringLiteral("W") };
 }
 
 class tst_MvDestructionOrder : public QObject
@@ -245,8 +264,8 @@ void tst_MvDestructionOrder::anyOrderLeavesNothingBehind_data()
     QTest::addColumn<bool>("widgetsInWindow"); // the widgets and the dialog are children of W
 
     QTest::newRow("widgets, then presenters, the timeline presenter last")
-        << "D PR S MW PW RW W M P R V K T" << false << false;
-    QTest::newRow("the timeline presenter first") << "T R P M RW PW MW S PR D W HV" << false << false;
+        << "WD D PR S MW PW RW W M P R V K T" << false << false;
+    QTest::newRow("the timeline presenter first") << "T R P M RW PW MW S PR D WD W HV" << false << false;
     QTest::newRow("presenters before their widgets") << "R P M T RW PW MW S D PR W" << false << false;
     QTest::newRow("the timeline presenter's own presenters taken first")
         << "K V T R P M W RW PW MW S PR D" << false << false;
@@ -254,7 +273,7 @@ void tst_MvDestructionOrder::anyOrderLeavesNothingBehind_data()
     QTest::newRow("the window with its widgets, then the presenters with their parent") << "W T" << true << true;
     QTest::newRow("the presenters with their parent, then the window") << "T W" << true << true;
     QTest::newRow("presenters one by one under a window that stays") << "M R K P V T W" << false << true;
-    QTest::newRow("interleaved") << "PW R S T MW P RW M D K V PR W" << false << false;
+    QTest::newRow("interleaved") << "PW R S WD T MW P RW M D K V PR W" << false << false;
     // And orders no one wrote down.
     QRandomGenerator random(5);
     for (int i = 0; i < 16; ++i) {
