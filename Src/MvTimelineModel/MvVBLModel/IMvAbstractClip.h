@@ -2,6 +2,7 @@
 
 #include "MvVBLModelGlobal.h"
 #include "IMvKeyFrameSelector.h"
+#include "MvRange.h"
 
 #include <QList>
 
@@ -24,6 +25,9 @@ public:
     virtual qint64 start() const = 0;
     virtual qint64 end() const = 0;
     virtual QString name() const = 0;
+
+    // Track commands: the frames the item covers, start() .. end().
+    virtual void range(MvRange<qint64>& range) const = 0;
 };
 
 // The transitions carried by one clip.
@@ -78,4 +82,11 @@ public:
     virtual bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) = 0;
     // A selection of every keyframe of that side.
     virtual IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const = 0;
+
+    // Track commands and audio: the clip's own sound switch (value 0 or 1) and its music remix.
+    virtual bool isMuted() const = 0;
+    virtual void setMuted(quint16 muted) = 0;
+    virtual bool isRemixed() const = 0;
+    // Takes the remix off the clip; false when it has none or its track is locked.
+    virtual bool removeRemix() = 0;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MvVBLModelGlobal.h"
+#include "MvRange.h"
 
 #include <QList>
 
@@ -62,4 +63,14 @@ public:
     // The virtual playhead is offered only where the timeline allows it.
     virtual bool virtualPlayheadAllowed() const = 0;
     virtual void prepareVirtualPlayhead() = 0;
+
+    // Track commands and audio detach.
+    virtual int trackCount(MVVBLMODEL::MvTrackType type) const = 0;
+    virtual int emptyTrackCount(MVVBLMODEL::MvTrackType type) const = 0;
+    // The first and last row of that type; last < first when there is none.
+    virtual void trackIndexRange(MvRange<int>& range, MVVBLMODEL::MvTrackType type) const = 0;
+    virtual void clearEmptyTracks() = 0;
+    virtual void addTrack(int type, int index) = 0;
+    // Puts the clip's sound on an audio row as a clip of its own; the clip keeps its picture.
+    virtual void detachAudio(IMvClip* clip, int trackIndex) = 0;
 };

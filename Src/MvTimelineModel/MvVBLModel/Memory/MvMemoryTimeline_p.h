@@ -71,6 +71,9 @@ public:
     void checkItems(QStringList& problems) const;
     QString clipText(const MvMemoryClip* clip) const;
     QString clipId(const MvMemoryClip* clip) const;
+    // Track commands and audio detach (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
+    MvMemoryTrack* insertTrack(MVVBLMODEL::MvTrackType type, int index);
+    MvMemoryTrack* soundRowFor(const MvMemoryClip* clip, int trackIndex);
 
     MvMemoryTimeline* q_ptr;
     Q_DECLARE_PUBLIC(MvMemoryTimeline)
