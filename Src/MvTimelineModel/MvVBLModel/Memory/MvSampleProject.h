@@ -4,13 +4,34 @@
 
 #include "MvVBLModelGlobal.h"
 
+#include <QScopedPointer>
+
 class MvMemoryTimeline;
 
 // The demo's built-in project: three picture rows and two audio rows, about two minutes at 30
 // frames per second, with clips of every common kind, a transition, a linked group, markers,
 // keyframes and a freeze frame. It leaves the undo history empty and the playhead at frame 0.
+//
+// As an object it owns the project's timelines: the main one (built as above, with a compound
+// clip added), the sequence that compound clip shows, and a small timeline of another project
+// with a compound clip of its own, to copy from one project into the other.
 class MVMEMORY_EXPORT MvSampleProject
 {
 public:
+    MvSampleProject();
+    ~MvSampleProject();
+
+    MvMemoryTimeline* timeline() const;
+    MvMemoryTimeline* sequence() const;
+    MvMemoryTimeline* otherProjectTimeline() const;
+
     static void build(MvMemoryTimeline& timeline);
+
+private:
+    Q_DISABLE_COPY(MvSampleProject)
+    // Declared first, destroyed last: the sequences outlive the timelines that show them.
+    QScopedPointer<MvMemoryTimeline> m_sequence;
+    QScopedPointer<MvMemoryTimeline> m_otherSequence;
+    QScopedPointer<MvMemoryTimeline> m_otherProject;
+    QScopedPointer<MvMemoryTimeline> m_timeline;
 };
