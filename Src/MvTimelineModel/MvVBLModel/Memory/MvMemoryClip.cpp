@@ -13,7 +13,7 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
-        && content == other.content;
+        && content == other.content && muted == other.muted && remixed == other.remixed;
 }
 
 // ---- transitions

@@ -9,6 +9,7 @@
 #include "MvMemoryTrack.h"
 
 #include <QHash>
+#include <QSet>
 #include <QVector>
 
 #include <algorithm>
@@ -64,14 +65,17 @@ void MvMemoryClipboard::copyFrom(const MvMemoryTimeline* timeline, const QList<I
 {
     MvMemoryCopy copy;
     QList<MvMemoryClip*> clips;
+    QSet<const MvMemoryClip*> taken;
     for (IMvAbstractClip* item : items) {
         bool live = false;
         const MvMemoryUndoable* own = timeline->ownItem(item, &live);
         if (!live)
             continue;
         if (auto* clip = dynamic_cast<MvMemoryClip*>(const_cast<MvMemoryUndoable*>(own))) {
-            if (!clips.contains(clip))
+            if (!taken.contains(clip)) {
+                taken.insert(clip);
                 clips.append(clip);
+            }
         } else if (const auto* transition = dynamic_cast<const MvMemoryTransition*>(own)) {
             MvMemoryTransition::State state = transition->state();
             state.owner = nullptr;
@@ -79,13 +83,16 @@ void MvMemoryClipboard::copyFrom(const MvMemoryTimeline* timeline, const QList<I
         }
     }
     std::sort(clips.begin(), clips.end(), earlierOnTimeline);
+    QHash<const MvMemoryClip*, int> places;
+    for (int i = 0; i < clips.size(); ++i)
+        places.insert(clips.at(i), i);
     const QList<MvMemoryTrack*> bands[]
         = { rowsOfType(timeline, TrackType_Picture), rowsOfType(timeline, TrackType_Audio) };
     QHash<const MvMemoryClipGroup*, int> groups;
     for (const MvMemoryClip* clip : qAsConst(clips)) {
         const bool audio = clip->trackImpl()->type() == TrackType_Audio;
         MvMemoryCopiedClip copied = copyOf(clip, bands[audio ? 1 : 0]);
-        copied.follower = clips.indexOf(clip->state().follower);
+        copied.follower = places.value(clip->state().follower, -1);
         if (const MvMemoryClipGroup* group = timeline->groupsImpl()->groupOf(clip)) {
             if (!groups.contains(group)) {
                 groups.insert(group, copy.groupKinds.size());
@@ -256,12 +263,12 @@ QList<IMvTransition*> transitions(MvMemoryTimeline* timeline, const MvMemoryCopy
             picks.append(transition);
     }
     QList<IMvTransition*> pasted;
-    QList<MvMemoryClip*> done;
+    QSet<const MvMemoryClip*> done;
     for (IMvClip* target : targets) {
         MvMemoryClip* clip = timeline->memoryClip(target);
         if (!clip || !clip->isOnTimeline() || clip->trackImpl()->isLocked() || done.contains(clip))
             continue;
-        done.append(clip);
+        done.insert(clip);
         for (const MvMemoryTransition::State& pick : qAsConst(picks)) {
             const QList<MvMemoryTransition*> present = clip->liveTransitions();
             for (MvMemoryTransition* old : present) {
@@ -292,6 +299,7 @@ void MvMemoryEditService::cut(QList<IMvAbstractClip*> items)
     MvMemoryTimeline::Edit edit(m_timeline, "cut", QStringLiteral("cut"));
     MvMemoryClipboard::application().copyFrom(m_timeline, items);
     QList<IMvClip*> clips;
+    QSet<const MvMemoryClip*> cutClips;
     QList<MvMemoryTransition*> transitions;
     for (IMvAbstractClip* item : qAsConst(items)) {
         bool live = false;
@@ -299,15 +307,17 @@ void MvMemoryEditService::cut(QList<IMvAbstractClip*> items)
         if (!live)
             continue;
         if (auto* clip = dynamic_cast<MvMemoryClip*>(const_cast<MvMemoryUndoable*>(own))) {
-            if (!clip->trackImpl()->isLocked() && !clips.contains(clip))
+            if (!clip->trackImpl()->isLocked() && !cutClips.contains(clip)) {
+                cutClips.insert(clip);
                 clips.append(clip);
+            }
         } else if (auto* transition = dynamic_cast<MvMemoryTransition*>(const_cast<MvMemoryUndoable*>(own))) {
             transitions.append(transition);
         }
     }
     // A transition goes with its clip when that is cut too.
     for (MvMemoryTransition* transition : qAsConst(transitions)) {
-        if (!clips.contains(transition->owner()))
+        if (!cutClips.contains(transition->owner()))
             transition->owner()->transitionList()->remove(transition->identifier(), transition->placement());
     }
     if (!clips.isEmpty())
