@@ -127,7 +127,7 @@ bool MvClipFinder::hasClip(int trackIndex, MvRange<qint64> range) const
 
 bool MvAudioRemixHelper::clearRemix(IMvClip* clip)
 {
-    if (!clip || !clip->isRemixed())
+    if (!clip)
         return false;
     IMvTimeline* timeline = clip->ownerTimeline();
     const MvUndoRedoCommander step(timeline ? timeline->undoRedoService() : nullptr, QStringLiteral("clear remix"),
