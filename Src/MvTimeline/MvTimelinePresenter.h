@@ -160,6 +160,31 @@ public:
     void detachSelectedAudio();
     bool detachSelectedAudioEnabled();
     void clearRemix();
+    // Library resources: asks the media library for resources like the one the single selected
+    // item was made from (MvMediaLibraryFindSimilarMessage), after hiding the property panel.
+    bool canSearchSimilarResource();
+    void searchSimilarResource();
+
+    // Composed texts: asks the media editor to select the text layers of the single selected text
+    // item (MvMediaEditorSelectClipMessage), the main lines before the secondary ones.
+    bool canSelectAllSubTextClips();
+    void selectAllSubTextClips();
+
+    // Requests to the host's property panel, keyframe panel and advanced editors.
+    // The panel a clip's properties are shown in: PropertyType_Audio, PropertyType_Picture or
+    // PropertyType_None (also for null).
+    MVVBLMODEL::MvPropertyType getPropertyType(IMvClip* clip);
+    void showAdvancedColor();
+    // Shows the selection's property page, then the advanced editor of a text, subtitle or title.
+    void showAdvancedEdit(bool arg);
+    // The audio panel for the clip whose keyframes are selected, if any.
+    void openAudioPropertyPanel();
+    // Switches the host's property view to the clip's panel (NotifySwtichPropertView).
+    void showKeyFrameCustomizePanel(IMvClip* clip);
+    void addAnimation();
+    // A keyframe picked in the keyframe panel: its clip becomes the selection and the playhead goes
+    // to the keyframe (frame is a frame of the clip).
+    void selectedKeyFrameChanged(IMvClip* clip, qint64 frame);
 
 Q_SIGNALS:
     void sigClipSelectedChanged();

@@ -13,6 +13,7 @@ class IMvMarkerList;
 class IMvFreezeFrameList;
 class IMvSmartKeyingNodes;
 class IMvTransition;
+class IMvResourceInfo;
 
 // Anything placed on a track: media clips and transitions. Frames are timeline frames; a clip
 // covers start() .. end(), both included.
@@ -25,6 +26,9 @@ public:
     virtual qint64 start() const = 0;
     virtual qint64 end() const = 0;
     virtual QString name() const = 0;
+
+    // Library resources: what the item was made from, null for the user's own media.
+    virtual IMvResourceInfo* resourceInfo() const = 0;
 
     // Track commands: the frames the item covers, start() .. end().
     virtual void range(MvRange<qint64>& range) const = 0;
@@ -82,6 +86,10 @@ public:
     virtual bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) = 0;
     // A selection of every keyframe of that side.
     virtual IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const = 0;
+
+    // Composed texts: a secondary layer supports the main lines of its composed item (a caption
+    // under a name); a clip on a track is never secondary.
+    virtual bool isSecondary() const = 0;
 
     // Track commands and audio: the clip's own sound switch (value 0 or 1) and its music remix.
     virtual bool isMuted() const = 0;

@@ -5,8 +5,10 @@
 #include "IMvColorCompareService.h"
 #include "IMvKeyFrameSelector.h"
 #include "IMvMarker.h"
+#include "IMvResourceInfo.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
+#include "IMvTimelineClip.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
@@ -27,6 +29,8 @@ IMvMarkerModel::~IMvMarkerModel() = default;
 IMvSelection::~IMvSelection() = default;
 IMvSubItemSelection::~IMvSubItemSelection() = default;
 IMvTimeline::~IMvTimeline() = default;
+IMvTimelineClip::~IMvTimelineClip() = default;
+IMvResourceInfo::~IMvResourceInfo() = default;
 IMvPlayheadEventObserver::~IMvPlayheadEventObserver() = default;
 IMvTimelinePlayhead::~IMvTimelinePlayhead() = default;
 IMvTimelineRenderEventObserver::~IMvTimelineRenderEventObserver() = default;

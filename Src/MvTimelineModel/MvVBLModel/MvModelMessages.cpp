@@ -27,3 +27,27 @@ const char* MvPropertyPanelShowMessage2::typeName() const
 {
     return "MvPropertyPanelShowMessage2";
 }
+
+MvMediaLibraryFindSimilarMessage::MvMediaLibraryFindSimilarMessage(
+    const ResourceInfoData& resource, const QString& title, MVVBLMODEL::MvMediaCategoryType category)
+    : MvMessage(MVVBLMODEL::MessageId::MediaLibraryFindSimilar)
+    , m_resource(resource)
+    , m_title(title)
+    , m_category(category)
+{
+}
+
+const char* MvMediaLibraryFindSimilarMessage::typeName() const
+{
+    return "MvMediaLibraryFindSimilarMessage";
+}
+
+MvMediaEditorSelectClipMessage::MvMediaEditorSelectClipMessage()
+    : MvMessage(MVVBLMODEL::MessageId::MediaEditorSelectClip)
+{
+}
+
+const char* MvMediaEditorSelectClipMessage::typeName() const
+{
+    return "MvMediaEditorSelectClipMessage";
+}

@@ -13,7 +13,9 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
-        && content == other.content && muted == other.muted && remixed == other.remixed;
+        && content == other.content && resource == other.resource && container == other.container
+        && children == other.children && secondary == other.secondary && muted == other.muted
+        && remixed == other.remixed;
 }
 
 // ---- transitions
@@ -21,6 +23,7 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
 MvMemoryTransition::MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state)
     : MvMemoryValued<State>(timeline->undoRecorder(), state)
     , m_identifier(identifier)
+    , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
     valueChanged();
 }
@@ -180,6 +183,7 @@ MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& 
     , m_transitions(new MvMemoryTransitionList(this))
     , m_freezeFrames(new MvMemoryFreezeFrameList(this))
     , m_nodes(new MvMemorySmartKeyingNodes(this))
+    , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
     valueChanged();
 }
@@ -197,14 +201,15 @@ MvClipType MvMemoryClip::type() const
     return state().type;
 }
 
+// A layer of a composed text shows for as long as its item.
 qint64 MvMemoryClip::start() const
 {
-    return state().start;
+    return state().container ? state().container->start() : state().start;
 }
 
 qint64 MvMemoryClip::end() const
 {
-    return state().end;
+    return state().container ? state().container->end() : state().end;
 }
 
 QString MvMemoryClip::name() const
@@ -214,12 +219,12 @@ QString MvMemoryClip::name() const
 
 qint64 MvMemoryClip::position() const
 {
-    return state().start;
+    return start();
 }
 
 qint64 MvMemoryClip::frameCount() const
 {
-    return state().end - state().start + 1;
+    return end() - start() + 1;
 }
 
 bool MvMemoryClip::isEnabled() const

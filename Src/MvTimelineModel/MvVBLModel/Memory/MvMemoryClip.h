@@ -4,10 +4,14 @@
 
 #include "IMvAbstractClip.h"
 #include "IMvClipItems.h"
+#include "IMvTimelineClip.h"
 #include "MvMemoryMarker.h"
+#include "MvMemoryResource.h"
 #include "MvMemoryUndoable.h"
 
 #include <QMap>
+
+#include <memory>
 
 class MvMemoryTimeline;
 class MvMemoryTrack;
@@ -23,11 +27,12 @@ struct MvMemoryTransitionState
     qint64 length = 1;
     QString name;
     bool attached = true;
+    MvMemoryResource resource; // library resources (MvMemoryResource.cpp)
 
     bool operator==(const MvMemoryTransitionState& other) const
     {
         return owner == other.owner && placement == other.placement && length == other.length && name == other.name
-            && attached == other.attached;
+            && attached == other.attached && resource == other.resource;
     }
 };
 
@@ -49,6 +54,10 @@ public:
     int identifier() const override;
     quint16 placement() const override;
     void range(MvRange<qint64>& range) const override;
+    IMvResourceInfo* resourceInfo() const override;
+
+    // Library resources (MvMemoryResource.cpp): an undoable edit.
+    void setResource(const MvMemoryResource& resource);
 
     qint64 length() const { return state().length; }
     MvMemoryClip* owner() const { return state().owner; }
@@ -64,6 +73,7 @@ private:
     Q_DISABLE_COPY(MvMemoryTransition)
     int m_identifier;
     MvMemoryClip* m_indexedOwner = nullptr; // the owner whose list holds this transition
+    std::unique_ptr<MvMemoryResourceInfo> m_resourceInfo;
 };
 
 class MVMEMORY_EXPORT MvMemoryTransitionList : public IMvTransitionList
@@ -137,6 +147,13 @@ struct MvMemoryClipState
     // Track commands and audio: the clip's sound switched off; a music clip's remix.
     bool muted = false;
     bool remixed = false;
+    // Library resources (MvMemoryResource.cpp).
+    MvMemoryResource resource;
+    // Composed texts (MvMemoryTextContainer.cpp): the item a layer belongs to, an item's layers
+    // bottom first, and whether a layer is secondary.
+    MvMemoryClip* container = nullptr;
+    QList<MvMemoryClip*> children;
+    bool secondary = false;
 
     bool operator==(const MvMemoryClipState& other) const;
     bool operator!=(const MvMemoryClipState& other) const { return !(*this == other); }
@@ -146,7 +163,7 @@ struct MvMemoryClipState
 // marker list, an undoable object of its own); the clip object itself lives as long as its
 // timeline (a removed clip is detached: its track is null). Its track keeps it in its lookup by
 // start.
-class MVMEMORY_EXPORT MvMemoryClip : public IMvClip, public MvMemoryValued<MvMemoryClipState>
+class MVMEMORY_EXPORT MvMemoryClip : public IMvTimelineClip, public MvMemoryValued<MvMemoryClipState>
 {
 public:
     using State = MvMemoryClipState;
@@ -188,6 +205,17 @@ public:
     void setMuted(quint16 muted) override;
     bool isRemixed() const override;
     bool removeRemix() override;
+    IMvResourceInfo* resourceInfo() const override;
+    bool isSecondary() const override;
+    // IMvTimelineClip
+    QList<IMvClip*> childClips() const override;
+
+    // Library resources (MvMemoryResource.cpp): an undoable edit.
+    void setResource(const MvMemoryResource& resource);
+    // Composed texts (MvMemoryTextContainer.cpp): the item this layer belongs to (null for a clip
+    // on a track) and this item's layers.
+    MvMemoryClip* container() const { return state().container; }
+    QList<MvMemoryClip*> children() const { return state().children; }
 
     // Set-up and test hooks; each is an undoable edit.
     void setName(const QString& name);
@@ -242,4 +270,5 @@ private:
     MvMemoryTrack* m_indexedTrack = nullptr;
     qint64 m_indexedStart = 0;
     QList<MvMemoryTransition*> m_attached; // attached transitions, in creation order
+    std::unique_ptr<MvMemoryResourceInfo> m_resourceInfo;
 };

@@ -4,7 +4,9 @@
 #include "IMvTimelineRuler.h"
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
+#include "MvMemoryResource.h"
 #include "MvMemorySelection.h"
+#include "MvMemoryTextContainer.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
@@ -190,6 +192,7 @@ QString MvMemoryTimeline::checkInvariants() const
     d->checkClips(problems);
     d->checkGroupsAndTransitions(problems);
     d->checkItems(problems);
+    d->checkChildren(problems);
     return problems.join(QLatin1Char('\n'));
 }
 
@@ -215,11 +218,17 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     if (state.content)
         text += QLatin1String("\n    compound of project ") % num(state.content->projectId()) % QLatin1String(" \"")
             % state.content->name() % QLatin1Char('"');
+    if (state.resource.isLibraryResource())
+        text += QLatin1String("\n    ") % MvMemoryResources::text(state.resource);
+    if (!state.children.isEmpty())
+        text += QLatin1String("\n    layers: ") % MvMemoryTextContainer::text(clip);
     const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
     for (const MvMemoryTransition* transition : transitions) {
         text += QLatin1String("\n    transition ") % num(transition->identifier()) % QLatin1String(" at ")
             % num(transition->placement()) % QLatin1Char(' ') % num(transition->start()) % QLatin1String("..")
             % num(transition->end()) % QLatin1String(" \"") % transition->name() % QLatin1Char('"');
+        if (transition->state().resource.isLibraryResource())
+            text += QLatin1Char(' ') % MvMemoryResources::text(transition->state().resource);
     }
     return text;
 }

@@ -74,6 +74,9 @@ public:
     // Track commands and audio detach (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
     MvMemoryTrack* insertTrack(MVVBLMODEL::MvTrackType type, int index);
     MvMemoryTrack* soundRowFor(const MvMemoryClip* clip, int trackIndex);
+    // Composed texts (MvMemoryTextContainer.cpp): layers of their own for a copy of an item.
+    void copyChildren(MvMemoryClip* copy, const QList<MvMemoryClip*>& children);
+    void checkChildren(QStringList& problems) const;
 
     MvMemoryTimeline* q_ptr;
     Q_DECLARE_PUBLIC(MvMemoryTimeline)

@@ -3,6 +3,7 @@
 #include "IMvTimelinePlayhead.h"
 #include "MvMemoryClip.h"
 #include "MvMemoryEditService.h"
+#include "MvMemoryResource.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryUndoService.h"
 
@@ -68,36 +69,55 @@ void buildOtherProject(MvMemoryTimeline& timeline, MvMemoryTimeline& sequence)
     timeline.addClip(0, ClipType_Video, 8 * kSecond, 14 * kSecond - 1, QStringLiteral("Sunset"));
     timeline.undoService()->clear();
 }
+
+MvMemoryClip* clipNamed(const MvMemoryTimeline& timeline, const QString& name)
+{
+    const QList<MvMemoryClip*> clips = timeline.liveClips();
+    for (MvMemoryClip* clip : clips) {
+        if (clip->name() == name)
+            return clip;
+    }
+    return nullptr;
 }
 
-MvSampleProject::MvSampleProject()
-    : m_sequence(new MvMemoryTimeline(1))
-    , m_otherSequence(new MvMemoryTimeline(1))
-    , m_otherProject(new MvMemoryTimeline(0))
-    , m_timeline(new MvMemoryTimeline(0))
+// Stock footage and music from the online libraries (their similarity search knows them), a
+// sticker, a sound and a transition shipped with the editor (it does not).
+void addLibraryResources(MvMemoryTimeline& timeline)
 {
-    build(*m_timeline);
-    m_timeline->setName(QStringLiteral("A day by the sea"));
-    buildSequence(*m_sequence, m_timeline->projectId(), QStringLiteral("Sequence 1"), QStringLiteral("Close-up"));
-    addCompound(*m_timeline, *m_sequence);
-    buildOtherProject(*m_otherProject, *m_otherSequence);
+    const int stockLibrary = 1;
+    const int musicLibrary = 2;
+    const struct
+    {
+        const char* clip;
+        MvMemoryResource resource;
+    } resources[] = {
+        { "Fishing boats",
+            { 20417, stockLibrary, QStringLiteral("stock-video-20417"), QStringLiteral("Fishing boats at sea") } },
+        { "Theme", { 3310, musicLibrary, QStringLiteral("music-3310"), QStringLiteral("Sea breeze") } },
+        { "Seagull", { 118, MvMemoryResource::BuiltIn, QStringLiteral("sticker-118"), QStringLiteral("Seagull") } },
+        { "Waves",
+            { 57, MvMemoryResource::BuiltIn, QStringLiteral("sound-57"), QStringLiteral("Waves on the shore") } },
+    };
+    for (const auto& entry : resources) {
+        if (MvMemoryClip* clip = clipNamed(timeline, QLatin1String(entry.clip)))
+            clip->setResource(entry.resource);
+    }
+    if (MvMemoryClip* street = clipNamed(timeline, QStringLiteral("Market street"))) {
+        for (MvMemoryTransition* transition : street->liveTransitions())
+            transition->setResource(
+                { 5, MvMemoryResource::BuiltIn, QStringLiteral("transition-5"), QStringLiteral("Cross dissolve") });
+    }
 }
 
-MvSampleProject::~MvSampleProject() = default;
-
-MvMemoryTimeline* MvSampleProject::timeline() const
+// The lower third is a composed text: two names, the line under them and a decoration.
+void composeLowerThird(MvMemoryTimeline& timeline)
 {
-    return m_timeline.data();
+    MvMemoryClip* caption = clipNamed(timeline, QStringLiteral("Lower third"));
+    timeline.addChildClip(caption, ClipType_Sticker, QStringLiteral("Underline"), false);
+    timeline.addChildClip(caption, ClipType_Text, QStringLiteral("Anna Berg"), false);
+    timeline.addChildClip(caption, ClipType_Text, QStringLiteral("Jon Berg"), false);
+    timeline.addChildClip(caption, ClipType_Text, QStringLiteral("Harbour masters since 1998"), true);
 }
-
-MvMemoryTimeline* MvSampleProject::sequence() const
-{
-    return m_sequence.data();
-}
-
-MvMemoryTimeline* MvSampleProject::otherProjectTimeline() const
-{
-    return m_otherProject.data();
 }
 
 void MvSampleProject::build(MvMemoryTimeline& timeline)
@@ -145,7 +165,39 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
     screen->setSmartKeyingNodeCount(3);
     caption->setMotionTrackingEnabled(true);
     addAudioContent(timeline);
+    addLibraryResources(timeline);
+    composeLowerThird(timeline);
 
     timeline.undoService()->clear();
     timeline.playhead()->setCurrentFrame(0);
+}
+
+MvSampleProject::MvSampleProject()
+    : m_sequence(new MvMemoryTimeline(1))
+    , m_otherSequence(new MvMemoryTimeline(1))
+    , m_otherProject(new MvMemoryTimeline(0))
+    , m_timeline(new MvMemoryTimeline(0))
+{
+    build(*m_timeline);
+    m_timeline->setName(QStringLiteral("A day by the sea"));
+    buildSequence(*m_sequence, m_timeline->projectId(), QStringLiteral("Sequence 1"), QStringLiteral("Close-up"));
+    addCompound(*m_timeline, *m_sequence);
+    buildOtherProject(*m_otherProject, *m_otherSequence);
+}
+
+MvSampleProject::~MvSampleProject() = default;
+
+MvMemoryTimeline* MvSampleProject::timeline() const
+{
+    return m_timeline.data();
+}
+
+MvMemoryTimeline* MvSampleProject::sequence() const
+{
+    return m_sequence.data();
+}
+
+MvMemoryTimeline* MvSampleProject::otherProjectTimeline() const
+{
+    return m_otherProject.data();
 }
