@@ -4,6 +4,7 @@
 #include "IMvTrack.h"
 #include "Memory/MvMemoryClipboard.h"
 #include "Memory/MvMemoryEditService.h"
+#include "Memory/MvMemoryResource.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvMemoryUndoService.h"
 
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void pastePlacement();
     void pasteIsOneStepAndSelectsNothing();
     void pasteCarriesEverythingTheClipsCarry();
+    void pasteCarriesLayersAndResources();
     void pasteAcrossTimelines();
     void compoundClips_data();
     void compoundClips();
@@ -246,6 +248,37 @@ void tst_MvMemoryClipboard::pasteCarriesEverythingTheClipsCarry()
     QCOMPARE(timeline->groupKindOf(copy), 1);
     QCOMPARE(copy->motionTrackFollower(), made.at(1));
     QCOMPARE(clip->motionTrackFollower(), follower);
+    QCOMPARE(timeline->checkInvariants(), QString());
+}
+
+void tst_MvMemoryClipboard::pasteCarriesLayersAndResources()
+{
+    std::unique_ptr<MvMemoryTimeline> timeline = makeTimeline();
+    MvMemoryClip* text = timeline->addClip(0, ClipType_Text, 0, 99, QStringLiteral("lower third"));
+    MvMemoryClip* name = timeline->addChildClip(text, ClipType_Text, QStringLiteral("name"), false);
+    timeline->addChildClip(text, ClipType_Text, QStringLiteral("role"), true);
+    const MvMemoryResource stock { 42, 1, QStringLiteral("stock-42"), QStringLiteral("Stock") };
+    text->setResource(stock);
+    MvMemoryTransition* fade = timeline->addTransition(text, IMvTransition::AtStart, 10, QStringLiteral("fade"));
+    fade->setResource({ 5, MvMemoryResource::BuiltIn, QStringLiteral("transition-5"), QStringLiteral("Fade") });
+    service(*timeline)->copy({ text });
+    // What the original's layers become later is no part of the copy.
+    name->setName(QStringLiteral("renamed"));
+
+    QList<IMvClip*> made;
+    service(*timeline)->paste(200, -1, made, 0, 3);
+
+    auto* copy = static_cast<MvMemoryClip*>(made.value(0));
+    QVERIFY(copy);
+    QStringList layers;
+    for (const MvMemoryClip* layer : copy->children()) {
+        QCOMPARE(layer->container(), copy);
+        QVERIFY(!text->children().contains(const_cast<MvMemoryClip*>(layer)));
+        layers.append(layer->name() + (layer->isSecondary() ? QStringLiteral("*") : QString()));
+    }
+    QCOMPARE(layers, (QStringList { QStringLiteral("name"), QStringLiteral("role*") }));
+    QCOMPARE(copy->state().resource, stock);
+    QCOMPARE(copy->liveTransitions().value(0)->state().resource.guid, QStringLiteral("transition-5"));
     QCOMPARE(timeline->checkInvariants(), QString());
 }
 

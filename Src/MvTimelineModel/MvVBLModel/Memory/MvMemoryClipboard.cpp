@@ -40,6 +40,12 @@ MvMemoryCopiedClip copyOf(const MvMemoryClip* clip, const QList<MvMemoryTrack*>&
     copy.state = clip->state();
     copy.state.track = nullptr;
     copy.state.follower = nullptr;
+    copy.state.children.clear();
+    for (const MvMemoryClip* layer : clip->children()) {
+        MvMemoryClip::State state = layer->state();
+        state.container = nullptr;
+        copy.layers.append(state);
+    }
     copy.rowType = clip->trackImpl()->type();
     copy.bandRow = band.indexOf(clip->trackImpl());
     const QList<MvMemoryMarker*> markers = clip->markerList()->attachedMarkers();
@@ -160,6 +166,21 @@ QList<Placement> place(MvMemoryTimeline* timeline, const MvMemoryCopy& copy, con
     return placements;
 }
 
+// A transition with its whole value (its resource too) onto a clip.
+MvMemoryTransition* pasteTransition(
+    MvMemoryTimeline* timeline, MvMemoryClip* clip, const MvMemoryTransition::State& state, qint64 length)
+{
+    MvMemoryTransition* made = timeline->addTransition(clip, state.placement, length, state.name);
+    if (made) {
+        auto value = made->change();
+        *value = state;
+        value->owner = clip;
+        value->length = length;
+        value->attached = true;
+    }
+    return made;
+}
+
 MvMemoryClip* pasteOne(MvMemoryTimeline* timeline, const MvMemoryCopiedClip& copied, MvMemoryTrack* row, qint64 offset)
 {
     const MvMemoryClip::State& state = copied.state;
@@ -180,7 +201,14 @@ MvMemoryClip* pasteOne(MvMemoryTimeline* timeline, const MvMemoryCopiedClip& cop
             made->setComment(marker.comment);
     }
     for (const MvMemoryTransition::State& transition : copied.transitions)
-        timeline->addTransition(clip, transition.placement, transition.length, transition.name);
+        pasteTransition(timeline, clip, transition, transition.length);
+    for (const MvMemoryClip::State& layer : copied.layers) {
+        if (MvMemoryClip* made = timeline->addChildClip(clip, layer.type, layer.name, layer.secondary)) {
+            auto value = made->change();
+            *value = layer;
+            value->container = clip;
+        }
+    }
     return clip;
 }
 
@@ -275,8 +303,7 @@ QList<IMvTransition*> transitions(MvMemoryTimeline* timeline, const MvMemoryCopy
                 if (old->placement() == pick.placement)
                     clip->transitionList()->remove(old->identifier(), old->placement());
             }
-            const qint64 length = qMin(pick.length, clip->frameCount());
-            if (MvMemoryTransition* made = timeline->addTransition(clip, pick.placement, length, pick.name))
+            if (MvMemoryTransition* made = pasteTransition(timeline, clip, pick, qMin(pick.length, clip->frameCount())))
                 pasted.append(made);
         }
     }

@@ -12,13 +12,14 @@ class MvMemoryTimeline;
 // One clip as a copy keeps it: its whole value off any timeline, and where it stood.
 struct MvMemoryCopiedClip
 {
-    MvMemoryClip::State state; // without track and follower
+    MvMemoryClip::State state; // without track, follower and layers
     MVVBLMODEL::MvTrackType rowType = MVVBLMODEL::TrackType_Picture;
     int bandRow = 0; // its row among the rows of that type, 0 the first
     int follower = -1; // the copied clip that follows it by motion tracking
     int group = -1; // its group among the copied groups
     QList<MvMemoryMarker::State> markers;
     QList<MvMemoryTransition::State> transitions; // without owner
+    QList<MvMemoryClip::State> layers; // of a composed text, without their item
 };
 
 // What one copy or cut took: clips in timeline order (row by row, each row by start), the
