@@ -69,6 +69,7 @@ void MvMemoryTimeline::detachAudio(IMvClip* clip, int trackIndex)
     sound.enabled = source->isEnabled();
     sound.audioKeys = source->state().audioKeys;
     sound.muted = source->state().muted;
+    sound.resource = source->state().resource;
     MvMemoryClip* detached = d->makeClip(sound);
     detached->change()->track = row;
     {
