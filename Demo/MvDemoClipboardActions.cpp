@@ -211,8 +211,10 @@ MvDemoTimelineWindow* MvDemoWindow::openTimelineWindow(MvMemoryTimeline* timelin
         window->move(geometry().topLeft() + QPoint(60 + 40 * m_timelineWindows.size(), 260));
         m_timelineWindows.insert(timeline, window);
     }
+    // A window already open comes to the front; a new one opens there.
+    if (window->isVisible())
+        window->raise();
     window->show();
-    window->raise();
     window->activateWindow();
     return window;
 }

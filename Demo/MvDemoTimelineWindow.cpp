@@ -69,6 +69,9 @@ MvDemoTimelineWindow::MvDemoTimelineWindow(
             self->modelChanged();
     });
     refreshActions();
+    // Explicit, and above what the layouts need, as for the main window: the layouts never push a
+    // minimum of their own onto the shown window.
+    setMinimumSize(640, 320);
     resize(960, 360);
 }
 
