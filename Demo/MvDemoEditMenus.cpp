@@ -86,6 +86,7 @@ void MvDemoWindow::buildMenus()
     buildTimelineMenu();
     buildTrackActions();
     buildPanelMenu();
+    buildMediaMenu();
 
     QMenu* playback = menuBar()->addMenu(tr("&Playback"));
     addCommand(playback, QStringLiteral("play"), tr("Play / Pause"), QKeySequence(Qt::Key_Space),

@@ -2,6 +2,7 @@
 
 #include "IMvTimeline.h"
 #include "IMvTrack.h"
+#include "IMvAbstractMediaItem.h"
 
 void MvDemoPresenter::updateAction()
 {
@@ -31,4 +32,14 @@ MVVBLMODEL::MvTrackType MvDemoPresenter::getSelectedTrackType()
 {
     const IMvTrack* track = selectedTrack();
     return track ? track->type() : 0;
+}
+
+QList<IMvAbstractMediaItem*> MvDemoPresenter::readyVCGItem(IMvAbstractMediaItem* item)
+{
+    bool downloadAsked = false;
+    QList<IMvAbstractMediaItem*> items = downloadAndSelectVCGItems({ item }, &downloadAsked);
+    // The resolutions come with the description: once it is here, they can be chosen.
+    if (downloadAsked && items.contains(item) && !item->needDownload())
+        items = downloadAndSelectVCGItems(items, nullptr);
+    return items.contains(item) && !item->needDownload() ? items : QList<IMvAbstractMediaItem*>();
 }

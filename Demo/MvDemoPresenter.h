@@ -17,6 +17,9 @@ public:
     // longer picked.
     IMvTrack* selectedTrack() const;
     void setSelectedTrack(IMvTrack* track);
+    // A VCG item made ready for adding: its description downloaded, then its resolution chosen;
+    // empty when either was given up.
+    QList<IMvAbstractMediaItem*> readyVCGItem(IMvAbstractMediaItem* item);
 
 Q_SIGNALS:
     void actionsNeedRefresh();

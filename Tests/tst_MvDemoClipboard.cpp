@@ -274,13 +274,10 @@ void tst_MvDemoClipboard::compoundRefusalsReachThePerson()
     demo.click(elsewhere->trackArea(), Demo::clipIn(other, QStringLiteral("Reel intro")));
     demo.keys(elsewhere->trackArea(), Qt::Key_C);
     const int clips = demo.timeline()->liveClips().size();
-    // Back to the main window, as a click on it does.
-    demo.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&demo.window));
+    // The main window's own Paste: which window a shortcut reaches depends on the platform's
+    // notion of the active window, which the offscreen one does not keep.
+    demo.window.action(QStringLiteral("paste"))->trigger();
 
-    demo.keys(demo.area(), Qt::Key_V);
-
-    QVERIFY2(demo.notices().size() == 2, qPrintable(demo.notices().join(QLatin1Char('|')) + QLatin1Char('\n') + demo.window.journalLines().join(QLatin1Char('\n'))));
     QCOMPARE(demo.notices(), (QStringList { NotItself, NotExternal }));
     QCOMPARE(demo.timeline()->liveClips().size(), clips);
     // A plain clip of the other project pastes.
@@ -288,9 +285,7 @@ void tst_MvDemoClipboard::compoundRefusalsReachThePerson()
     QVERIFY(QTest::qWaitForWindowActive(elsewhere));
     demo.click(elsewhere->trackArea(), Demo::clipIn(other, QStringLiteral("Sunset")));
     demo.keys(elsewhere->trackArea(), Qt::Key_C);
-    demo.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&demo.window));
-    demo.keys(demo.area(), Qt::Key_V);
+    demo.window.action(QStringLiteral("paste"))->trigger();
     QCOMPARE(demo.timeline()->liveClips().size(), clips + 1);
 }
 

@@ -122,7 +122,7 @@ void tst_MvDemoWindow::dragMovesTheSelectionInOneUndoStep_data()
     QTest::addColumn<int>("rows");
     // The logo on the second row; the sticker on the first, dragged down a row and later.
     QTest::newRow("sideways") << QStringLiteral("Logo") << -60 << 0;
-    QTest::newRow("down a row and later") << QStringLiteral("Seagull") << 40 << 1;
+    QTest::newRow("down a row and later") << QStringLiteral("Seagull") << 20 << 1;
 }
 
 void tst_MvDemoWindow::dragMovesTheSelectionInOneUndoStep()

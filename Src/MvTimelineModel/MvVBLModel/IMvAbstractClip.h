@@ -5,6 +5,7 @@
 #include "MvRange.h"
 
 #include <QList>
+#include <QMetaType>
 
 class IMvClip;
 class IMvTimeline;
@@ -98,3 +99,5 @@ public:
     // Takes the remix off the clip; false when it has none or its track is locked.
     virtual bool removeRemix() = 0;
 };
+
+Q_DECLARE_METATYPE(IMvClip*)

@@ -15,7 +15,7 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
         && content == other.content && resource == other.resource && container == other.container
         && children == other.children && secondary == other.secondary && muted == other.muted
-        && remixed == other.remixed;
+        && remixed == other.remixed && textColor == other.textColor && backgroundColor == other.backgroundColor;
 }
 
 // ---- transitions

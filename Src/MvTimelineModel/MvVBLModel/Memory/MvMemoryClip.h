@@ -9,6 +9,7 @@
 #include "MvMemoryResource.h"
 #include "MvMemoryUndoable.h"
 
+#include <QColor>
 #include <QMap>
 
 #include <memory>
@@ -147,6 +148,9 @@ struct MvMemoryClipState
     // Track commands and audio: the clip's sound switched off; a music clip's remix.
     bool muted = false;
     bool remixed = false;
+    // Colours of a text or subtitle clip given at its insertion (invalid: the defaults).
+    QColor textColor;
+    QColor backgroundColor;
     // Library resources (MvMemoryResource.cpp).
     MvMemoryResource resource;
     // Composed texts (MvMemoryTextContainer.cpp): the item a layer belongs to, an item's layers
