@@ -39,6 +39,7 @@ public:
     IMvAbstractClip* currentItem() const override { return m_items.value(0); }
     bool isTimelineSelected() const override { return false; }
     void setTimelineSelected(bool) override { }
+    IMvAbstractClip* itemAt(int index) const override { return m_items.value(index); }
 
 private:
     QList<IMvClip*> m_clips;
