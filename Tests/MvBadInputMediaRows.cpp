@@ -62,9 +62,11 @@ void addMediaRows()
         },
         0, QStringLiteral("download media item fail|4|") + kPrepare);
     row(
+        "media: a clip ending on the last 64-bit frame", nothing,
+        [](P& p) { return addMedias(p, { QStringLiteral("Island map.png") }, 1, kMaxInt, { kMaxFrame }, kMinInt); }, 0);
+    row(
         "media: a clip ending past the last 64-bit frame", nothing,
-        [](P& p) { return addMedias(p, { QStringLiteral("Island map.png") }, 1000, kMaxInt, { kMaxFrame }, kMinInt); },
-        0);
+        [](P& p) { return addMedias(p, { QStringLiteral("Island map.png") }, 1000, kMaxInt, { kMaxFrame }); }, 0);
     row(
         "media: the timeline into itself", nothing,
         [](P& p) {

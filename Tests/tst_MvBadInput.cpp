@@ -717,6 +717,7 @@ void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
     addRequestRows();
     addPanelRows();
     addMediaRows();
+    addClipboardAndTrackRows();
     addKeyFrameRows();
     addPresenterRows();
 }
@@ -747,6 +748,7 @@ void tst_MvBadInput::withoutATimelineNothingHappens_data()
     addOrphanKeyFrameAndPlayheadRows();
     addOrphanRulerRows();
     addOrphanMediaRows();
+    addOrphanClipboardAndTrackRows();
 }
 
 void tst_MvBadInput::withoutATimelineNothingHappens()

@@ -482,6 +482,74 @@ QVector<MvRandomCommand> panelCommands()
     };
 }
 
+// Copy, cut and paste (of clips, or of a transition onto the selected clips) and duplicate.
+QVector<MvRandomCommand> clipboardCommands()
+{
+    return {
+        onSelectionVoid("copySelectedClips", 3, [](W& w) { w.presenter().copySelectedClips(); }),
+        onSelectionVoid("cutSelectedClips", 2, [](W& w) { w.presenter().cutSelectedClips(); }),
+        { QStringLiteral("pasteClips"), 4,
+            [](W& w) -> QString {
+                const QString what = call(w, "pasteClips") + QStringLiteral(" at ")
+                    + frameText(w.timeline().playhead()->currentFrame());
+                w.presenter().pasteClips();
+                return what + QStringLiteral(", selection ") + w.selectionText();
+            } },
+        onSelectionVoid("duplicateClip", 2, [](W& w) { w.presenter().duplicateClip(); }),
+    };
+}
+
+// A row of the timeline, now and then none at all.
+IMvTrack* pickTrack(W& w, QString* name)
+{
+    IMvTrack* track = w.chance(5) ? nullptr : w.timeline().trackAt(w.below(w.timeline().trackCount()));
+    *name = track ? QStringLiteral("row %1").arg(track->index()) : QStringLiteral("no row");
+    return track;
+}
+
+// The track headers' buttons and the track menu; the sound of the selection.
+QVector<MvRandomCommand> trackCommands()
+{
+    return {
+        { QStringLiteral("track: setLock"), 2,
+            [](W& w) -> QString {
+                QString name;
+                IMvTrack* track = pickTrack(w, &name);
+                const bool lock = w.chance(35); // mostly unlocking, as with the model's own lock
+                w.presenter().setLock(track, lock);
+                return QStringLiteral("setLock(%1, %2)").arg(name, flag(lock));
+            } },
+        { QStringLiteral("track: setMute"), 2,
+            [](W& w) -> QString {
+                QString name;
+                IMvTrack* track = pickTrack(w, &name);
+                const bool mute = w.chance(50);
+                const bool enabled = w.presenter().muteEnable(track);
+                w.presenter().setMute(track, mute);
+                return QStringLiteral("setMute(%1, %2), mute enabled: %3").arg(name, flag(mute), flag(enabled));
+            } },
+        { QStringLiteral("track: setVisible"), 2,
+            [](W& w) -> QString {
+                QString name;
+                IMvTrack* track = pickTrack(w, &name);
+                const bool visible = w.chance(60);
+                w.presenter().setVisible(track, visible);
+                return QStringLiteral("setVisible(%1, %2), shown: %3")
+                    .arg(name, flag(visible), flag(w.presenter().trackVisible(track)));
+            } },
+        { QStringLiteral("setMute(selection)"), 2,
+            [](W& w) -> QString {
+                const bool mute = w.chance(50);
+                const QString what = call(w, "setMute", flag(mute));
+                w.presenter().setMute(mute);
+                return what + QStringLiteral(", all muted: ") + flag(w.presenter().mute());
+            } },
+        onSelectionVoid("clearEmptyTracks", 1, [](W& w) { w.presenter().clearEmptyTracks(); }),
+        onSelectionVoid("detachSelectedAudio", 2, [](W& w) { w.presenter().detachSelectedAudio(); }),
+        onSelectionVoid("clearRemix", 1, [](W& w) { w.presenter().clearRemix(); }),
+    };
+}
+
 // What a host asks of the timeline presenter besides editing: the player, the property panel, the
 // mode, the placeholder gap, and clearing the markers (an edit).
 QVector<MvRandomCommand> hostRequestCommands()
@@ -544,7 +612,7 @@ const QVector<MvRandomCommand>& mvRandomCommands()
 {
     static const QVector<MvRandomCommand> table = focusCommands() + viewCommands() + clipEditCommands() + moveCommands()
         + itemCommands() + keyFrameCommands() + playheadCommands() + panelCommands() + mvMediaCommands()
-        + hostRequestCommands() + undoCommands();
+        + clipboardCommands() + trackCommands() + hostRequestCommands() + undoCommands();
     return table;
 }
 

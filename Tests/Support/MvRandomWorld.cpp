@@ -3,6 +3,7 @@
 #include "IMvMarker.h"
 #include "IMvSelection.h"
 #include "IMvTimelinePlayhead.h"
+#include "Memory/MvMemoryClipboard.h"
 #include "Memory/MvMemoryMarker.h"
 #include "Memory/MvMemoryMediaLibrary.h"
 #include "Memory/MvSampleProject.h"
@@ -61,6 +62,9 @@ MvRandomWorld::MvRandomWorld(const TimelineFactory& factory)
     : m_media(std::make_unique<MvMemoryMediaLibrary>())
     , m_timeline(factory ? factory() : std::make_unique<MvMemoryTimeline>())
 {
+    // The clipboard is the application's: a world starts with an empty one, so that a replay sees
+    // only its own copies.
+    MvMemoryClipboard::application().clear();
     MvSampleProject::build(*m_timeline);
     MvSampleProject::buildMediaLibrary(*m_media, *m_timeline, 0);
     m_presenter = std::make_unique<MvTimelinePresenter>(nullptr, m_timeline.get());
@@ -75,7 +79,10 @@ MvRandomWorld::MvRandomWorld(const TimelineFactory& factory)
     answerQuestions();
 }
 
-MvRandomWorld::~MvRandomWorld() = default;
+MvRandomWorld::~MvRandomWorld()
+{
+    MvMemoryClipboard::application().clear();
+}
 
 void MvRandomWorld::answerQuestions()
 {
@@ -134,7 +141,7 @@ qint64 MvRandomWorld::frame()
         if (const IMvMarker* picked = marker())
             return picked->ownerList()->mapToTimeline(picked->frame());
     }
-    return duration > 0 ? qint64(m_random.generate64() % quint64(duration + 1)) : 0;
+    return duration > 0 ? qint64(m_random.generate64() % (quint64(duration) + 1)) : 0;
 }
 
 qint64 MvRandomWorld::frameOffset()
@@ -147,7 +154,8 @@ qint64 MvRandomWorld::frameOffset()
         // Far beyond any clip: the command must refuse or clamp, never wrap around.
         return chance(50) ? std::numeric_limits<qint64>::max() : std::numeric_limits<qint64>::min();
     case 2:
-        return sign * (m_timeline->duration() + 1);
+        // Just past the end (the duration itself when it is the most a duration can be).
+        return sign * qMin(m_timeline->duration(), std::numeric_limits<qint64>::max() - 1) + sign;
     default:
         return sign * qint64(1 + m_random.bounded(90));
     }

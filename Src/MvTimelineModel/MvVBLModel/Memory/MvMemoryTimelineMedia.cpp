@@ -103,8 +103,9 @@ MvMemoryClip* MvMemoryTimelinePrivate::insertMediaClip(
     if (length < 1)
         length = stillLength(rate);
     const qint64 start = qMax<qint64>(0, param.startFrame);
-    // A clip whose last frame would pass the last 64-bit frame is refused.
-    if (length - 1 > std::numeric_limits<qint64>::max() - start)
+    // A clip must end before the last 64-bit frame, so that the duration (last end + 1) stays a
+    // 64-bit count; one that would not is refused.
+    if (length > std::numeric_limits<qint64>::max() - start)
         return nullptr;
     MvMemoryTrack* track = rowForMedia(type, param.trackIndex, start, start + length - 1, policy);
     if (!track)
