@@ -3,7 +3,7 @@
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps configure build demo test stress fault bench asan tsan release install clean format format-check tidy
+.PHONY: all deps configure build demo test stress fault fault-run bench asan tsan release install clean format format-check tidy
 
 all: build
 
@@ -38,6 +38,12 @@ fault: deps
 	@if ./build/fault-$(FAULT)/Tests/tst_MvRandomCommands everyCheckHoldsOverARandomRun; then \
 		echo "The planted fault $(FAULT) went unnoticed."; exit 1; \
 	else echo "The planted fault $(FAULT) was found (the failure above is expected)."; fi
+
+# How much the suite is worth: plants each fault of tools/fault-run.py, one at a time, in a copy of
+# the sources (build/fault-run) and reports which the suite catches. FAULT_TESTS narrows the suite
+# (a ctest -R pattern), FAULT_ONLY the faults (a name prefix).
+fault-run: deps
+	@./tools/fault-run.py $(if $(FAULT_TESTS),--tests '$(FAULT_TESTS)') $(if $(FAULT_ONLY),--only '$(FAULT_ONLY)')
 
 bench: deps
 	@cmake --preset release > /dev/null
