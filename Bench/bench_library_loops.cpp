@@ -30,6 +30,7 @@ public:
     }
     void select(const QList<IMvClip*>&) override { }
     void selectItems(const QList<IMvAbstractClip*>&) override { }
+    void selectItem(IMvAbstractClip*) override { }
     void clear() override { }
     int count() const override { return m_clips.size(); }
     bool isEmpty() const override { return m_clips.isEmpty(); }

@@ -29,6 +29,12 @@ public:
         m_owner->note(QStringLiteral("selection:selectItems %1").arg(m_owner->clipNames(clips)));
         m_inner->selectItems(items);
     }
+    void selectItem(IMvAbstractClip* item) override
+    {
+        m_owner->note(
+            QStringLiteral("selection:selectItem %1").arg(m_owner->clipNames({ dynamic_cast<IMvClip*>(item) })));
+        m_inner->selectItem(item);
+    }
     void clear() override
     {
         m_owner->note(QStringLiteral("selection:clear"));

@@ -16,6 +16,8 @@ public:
     virtual void select(const QList<IMvClip*>& clips) = 0;
     // The same for any placed items, transitions included.
     virtual void selectItems(const QList<IMvAbstractClip*>& items) = 0;
+    // One item, clip or transition, becomes the selection; null leaves nothing selected.
+    virtual void selectItem(IMvAbstractClip* item) = 0;
     virtual void clear() = 0;
     virtual int count() const = 0;
     virtual bool isEmpty() const = 0;

@@ -100,3 +100,14 @@ const char* MvTimelineScrollToTrackMessage::typeName() const
 {
     return "MvTimelineScrollToTrackMessage";
 }
+
+MvAudioEffectOverrideMessage::MvAudioEffectOverrideMessage(const QList<IMvClip*>& clips)
+    : MvQueryMessage(MVVBLMODEL::MessageId::AudioEffectOverride)
+    , m_clips(clips)
+{
+}
+
+const char* MvAudioEffectOverrideMessage::typeName() const
+{
+    return "MvAudioEffectOverrideMessage";
+}

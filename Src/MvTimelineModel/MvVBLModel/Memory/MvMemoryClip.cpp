@@ -13,7 +13,9 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
-        && content == other.content && textColor == other.textColor && backgroundColor == other.backgroundColor;
+        && content == other.content && textColor == other.textColor && backgroundColor == other.backgroundColor
+        && effects == other.effects && userData == other.userData && handleBefore == other.handleBefore
+        && handleAfter == other.handleAfter;
 }
 
 // ---- transitions
@@ -21,6 +23,7 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
 MvMemoryTransition::MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state)
     : MvMemoryValued<State>(timeline->undoRecorder(), state)
     , m_identifier(identifier)
+    , m_timeline(timeline)
 {
     valueChanged();
 }
@@ -42,7 +45,7 @@ qint64 MvMemoryTransition::end() const
 {
     const State& s = state();
     if (!s.owner)
-        return 0;
+        return s.length - 1;
     return s.placement == AtStart ? s.owner->start() + s.length - 1 : s.owner->end();
 }
 
@@ -180,12 +183,14 @@ MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& 
     , m_transitions(new MvMemoryTransitionList(this))
     , m_freezeFrames(new MvMemoryFreezeFrameList(this))
     , m_nodes(new MvMemorySmartKeyingNodes(this))
+    , m_effects(new MvMemoryEffectContainer(this, false))
 {
     valueChanged();
 }
 
 MvMemoryClip::~MvMemoryClip()
 {
+    delete m_effects;
     delete m_nodes;
     delete m_freezeFrames;
     delete m_transitions;

@@ -4,10 +4,13 @@
 
 #include "IMvAbstractClip.h"
 #include "IMvClipItems.h"
+#include "MvMemoryEffects.h"
 #include "MvMemoryMarker.h"
 #include "MvMemoryUndoable.h"
 
+#include <QAtomicInt>
 #include <QColor>
+#include <QImage>
 #include <QMap>
 
 class MvMemoryTimeline;
@@ -24,11 +27,12 @@ struct MvMemoryTransitionState
     qint64 length = 1;
     QString name;
     bool attached = true;
+    bool audio = false; // blends the sound of the clips, not their pictures
 
     bool operator==(const MvMemoryTransitionState& other) const
     {
         return owner == other.owner && placement == other.placement && length == other.length && name == other.name
-            && attached == other.attached;
+            && attached == other.attached && audio == other.audio;
     }
 };
 
@@ -41,6 +45,10 @@ public:
     using State = MvMemoryTransitionState;
 
     MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state);
+    // A transition made from a media item (MvMemoryTransitionItems.cpp): on no timeline and no clip
+    // until a clip takes it (IMvClipTransitions::setTransition); its own length is a time, made
+    // frames by its frame rate. The maker holds the one reference.
+    MvMemoryTransition(const State& state, qint64 ownLengthMs, const QImage& thumbnail);
 
     MVVBLMODEL::MvClipType type() const override;
     qint64 start() const override;
@@ -49,6 +57,18 @@ public:
     IMvClip* ownerClip() const override;
     int identifier() const override;
     quint16 placement() const override;
+    // Made from media items (MvMemoryTransitionItems.cpp). A timeline keeps every transition put on
+    // one of its clips for as long as it lives: release() frees only a transition on none.
+    QImage thumbnail() const override;
+    void setFrameRate(const MVVBLMODEL::MvRational& rate) override;
+    void setEnd(qint64 frame, bool exclusive) override;
+    void release() override;
+    void retain();
+    // The timeline whose clip took the transition first; null while it is on none.
+    MvMemoryTimeline* timeline() const { return m_timeline; }
+    // A clip of this timeline takes the transition for the first time.
+    void joinTimeline(MvMemoryTimeline* timeline);
+    bool isAudio() const { return state().audio; }
 
     qint64 length() const { return state().length; }
     MvMemoryClip* owner() const { return state().owner; }
@@ -64,9 +84,16 @@ private:
     Q_DISABLE_COPY(MvMemoryTransition)
     int m_identifier;
     MvMemoryClip* m_indexedOwner = nullptr; // the owner whose list holds this transition
+    MvMemoryTimeline* m_timeline = nullptr;
+    QAtomicInt m_references { 1 };
+    QImage m_thumbnail;
+    MVVBLMODEL::MvRational m_frameRate;
+    qint64 m_ownLengthMs = 0; // 0: the length is in frames already
 };
 
-class MVMEMORY_EXPORT MvMemoryTransitionList : public IMvTransitionList
+// A clip's transitions: the list the presenters read, and the ends where transitions made from
+// media items go (setTransition, MvMemoryTransitionItems.cpp).
+class MVMEMORY_EXPORT MvMemoryTransitionList : public IMvTransitionList, public IMvClipTransitions
 {
 public:
     explicit MvMemoryTransitionList(MvMemoryClip* clip)
@@ -76,6 +103,7 @@ public:
 
     QList<IMvTransition*> transitions() const override;
     bool remove(int identifier, quint16 placement) override;
+    bool setTransition(IMvTransition* transition, MVVBLMODEL::MvTransitionType type) override;
 
 private:
     MvMemoryClip* m_clip;
@@ -137,6 +165,12 @@ struct MvMemoryClipState
     // Colours of a text or subtitle clip given at its insertion (invalid: the defaults).
     QColor textColor;
     QColor backgroundColor;
+    // Transitions and effects (MvMemoryEffects.cpp, MvMemoryTransitionItems.cpp): the effects the
+    // clip carries, a host's strings by key, and the unused media before and after the clip.
+    MvMemoryClipEffects effects;
+    QMap<int, QString> userData;
+    qint64 handleBefore = 0;
+    qint64 handleAfter = 0;
 
     bool operator==(const MvMemoryClipState& other) const;
     bool operator!=(const MvMemoryClipState& other) const { return !(*this == other); }
@@ -182,6 +216,21 @@ public:
     bool canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) const override;
     bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) override;
     IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const override;
+    // Transitions and effects (MvMemoryEffects.cpp, MvMemoryTransitionItems.cpp).
+    IMvClipTransitions* transitions() const override;
+    IMvUndoRedoService* undoRedoService() const override;
+    IMvEffectContainer* effects() const override;
+    QString userData(int key) const override;
+    void setUserData(int key, const QString& value) override;
+    qint64 handleBefore() const override;
+    qint64 handleAfter() const override;
+    // Which kinds of clip take video effects, audio effects, and have a source of a fixed length
+    // (the others are pictures that last as long as they are shown, and never run out).
+    static bool takesVideoEffects(MVVBLMODEL::MvClipType type);
+    static bool takesAudioEffects(MVVBLMODEL::MvClipType type);
+    static bool hasSourceLength(MVVBLMODEL::MvClipType type);
+    // A set-up hook: the unused media before and after the clip, an undoable edit.
+    void setHandles(qint64 before, qint64 after);
 
     // Set-up and test hooks; each is an undoable edit.
     void setName(const QString& name);
@@ -230,6 +279,7 @@ private:
     MvMemoryTransitionList* m_transitions;
     MvMemoryFreezeFrameList* m_freezeFrames;
     MvMemorySmartKeyingNodes* m_nodes;
+    MvMemoryEffectContainer* m_effects;
     // Where a track's lookup holds this clip.
     MvMemoryTrack* m_indexedTrack = nullptr;
     qint64 m_indexedStart = 0;

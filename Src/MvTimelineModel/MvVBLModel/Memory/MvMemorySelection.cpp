@@ -33,6 +33,12 @@ void MvMemorySelection::selectItems(const QList<IMvAbstractClip*>& items)
     }
 }
 
+// An item that is not on this timeline leaves nothing selected, as null does.
+void MvMemorySelection::selectItem(IMvAbstractClip* item)
+{
+    selectItems(item ? QList<IMvAbstractClip*> { item } : QList<IMvAbstractClip*>());
+}
+
 void MvMemorySelection::clear()
 {
     m_items.clear();

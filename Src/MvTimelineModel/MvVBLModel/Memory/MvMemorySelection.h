@@ -16,6 +16,7 @@ public:
 
     void select(const QList<IMvClip*>& clips) override;
     void selectItems(const QList<IMvAbstractClip*>& items) override;
+    void selectItem(IMvAbstractClip* item) override;
     void clear() override;
     int count() const override;
     bool isEmpty() const override;
