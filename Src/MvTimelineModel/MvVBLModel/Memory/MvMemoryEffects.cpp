@@ -84,7 +84,7 @@ MvMemoryEffectRef::~MvMemoryEffectRef()
 
 QString MvMemoryClipEffects::text() const
 {
-    const auto name = [](const MvMemoryEffectRef& effect) {
+    const auto name = [](const MvMemoryEffectRef& effect) -> QString {
         return QLatin1Char('"') + effect->name() + QLatin1String("\"#") + QString::number(effect->serial());
     };
     QStringList videoNames;

@@ -9,7 +9,7 @@ class MvMemoryTimeline;
 
 // The demo's built-in project: three picture rows and two audio rows, about two minutes at 30
 // frames per second, with clips of every common kind, a transition, a linked group, markers,
-// keyframes and a freeze frame. It leaves the undo history empty and the playhead at frame 0.
+// keyframes, a freeze frame, media handles and an effect. It leaves the undo history empty and the playhead at frame 0.
 class MVMEMORY_EXPORT MvSampleProject
 {
 public:
@@ -21,4 +21,12 @@ public:
     // this project whose timeline takes readTimeMs to read, one of another project, and the
     // project's own timeline, which cannot go into itself).
     static void buildMediaLibrary(MvMemoryMediaLibrary& library, MvMemoryTimeline& project, int readTimeMs = 1500);
+
+private:
+    // Media handles on the main story's clips (some have none: a transition over their cut repeats
+    // frames) and a video effect on one clip.
+    static void addHandlesAndEffects(MvMemoryTimeline& timeline);
+    // Transition items (dissolve, wipe, a slide that needs a download, an audio crossfade) and
+    // effect items (video and audio).
+    static void addTransitionAndEffectItems(MvMemoryMediaLibrary& library);
 };
