@@ -81,12 +81,12 @@ MvMemoryClip* MvMemoryTimelinePrivate::insertMediaClip(
     if (type < 0)
         return nullptr;
     MvMemoryTimeline* content = nullptr;
-    if (auto* compound = dynamic_cast<IMvCompoundMediaItem*>(item)) {
+    if (type == ClipType_Compound) {
         // A compound clip shows its content: there is nothing to show before it is read.
-        auto* own = dynamic_cast<MvMemoryCompoundMediaItem*>(item);
-        if (!own || !compound->isTimelineLoaded() || !own->content())
+        auto* compound = dynamic_cast<MvMemoryCompoundMediaItem*>(item);
+        if (!compound || !compound->isTimelineLoaded() || !compound->content())
             return nullptr;
-        content = own->content();
+        content = compound->content();
         const unsigned refused = MvMemoryCompound::nestingFlags(content, q);
         if (refused != 0) {
             *flags |= refused;
