@@ -25,7 +25,8 @@ QImage flagImage(const QColor& color, bool outline)
 }
 
 MvDemoMarkerPresenter::MvDemoMarkerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
-    : MvMarkerPresenter(timelinePresenter, parent), m_timeline(timelinePresenter->timeline())
+    : MvMarkerPresenter(timelinePresenter, parent)
+    , m_timeline(timelinePresenter->timeline())
 {
     const QList<QColor> palette = markerPalette();
     for (int i = 0; i < palette.size(); ++i)
@@ -39,10 +40,18 @@ QList<MvMarkerPresenter::MarkerItem> MvDemoMarkerPresenter::markerList()
     IMvMarkerList* list = m_timeline->timelineMarkers();
     const QList<IMvMarker*> markers = list->markers();
     for (IMvMarker* marker : markers) {
-        const int x = m_timeline->ruler()->frameToPixel(list->mapToTimeline(marker->frame()));
+        const int x = m_originX + m_timeline->ruler()->frameToPixel(list->mapToTimeline(marker->frame()));
         items.append({ x, qMax(0, markerPaletteIndex(marker->color())) });
     }
     return items;
+}
+
+void MvDemoMarkerPresenter::setOriginX(int originX)
+{
+    if (originX == m_originX)
+        return;
+    m_originX = originX;
+    Q_EMIT signalMarkerCountChanged();
 }
 
 IMvMarker* MvDemoMarkerPresenter::markerAt(int index) const
@@ -51,7 +60,8 @@ IMvMarker* MvDemoMarkerPresenter::markerAt(int index) const
 }
 
 MvDemoMarkerStrip::MvDemoMarkerStrip(MvDemoMarkerPresenter* presenter, QWidget* parent)
-    : MvMarkerWidget(presenter, parent), m_demoPresenter(presenter)
+    : MvMarkerWidget(presenter, parent)
+    , m_demoPresenter(presenter)
 {
     setMouseTracking(true);
     setFixedHeight(16);

@@ -16,11 +16,14 @@ public:
     MvDemoMarkerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent);
 
     QList<MarkerItem> markerList() override;
+    // Where frame 0's pixel of the ruler lies in the strip, which is wider than the ruler.
+    void setOriginX(int originX);
     // The model marker behind the list entry at index, or null.
     IMvMarker* markerAt(int index) const;
 
 private:
     IMvTimeline* m_timeline;
+    int m_originX = 0;
 };
 
 // The marker strip with the host's mouse handling: hover and press looks, a click selects the

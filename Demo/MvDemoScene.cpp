@@ -1,5 +1,6 @@
 #include "MvDemoScene.h"
 
+#include "MvDemoJournal.h"
 #include "MvDemoPlayer.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
@@ -10,11 +11,15 @@
 
 using namespace MVVBLMODEL;
 
-MvDemoScene::MvDemoScene(MvDemoPlayer* player, QObject* parent) : QObject(parent), m_player(player) { }
+MvDemoScene::MvDemoScene(MvDemoPlayer* player, QObject* parent)
+    : QObject(parent)
+    , m_player(player)
+{
+}
 
 void MvDemoScene::receiveMessage(int id)
 {
-    Q_EMIT journal(QStringLiteral("scene: message %1").arg(id));
+    Q_EMIT journal(tr("scene: %1").arg(MvDemoJournalWords::message(id)));
     if (id == MessageId::PausePlayer || id == MessageId::PausePlayerWithSync)
         m_player->pause();
 }
@@ -22,32 +27,42 @@ void MvDemoScene::receiveMessage(int id)
 void MvDemoScene::receiveMessage(MvMessage* message)
 {
     const int id = message->id();
+    QString detail;
     switch (id) {
     case MessageId::GroupQuestionBeforeSplit:
-        answerGroupQuestion(message);
+        detail = answerGroupQuestion(message);
         break;
     case MessageId::IsPlayerPlaying:
         static_cast<MvQueryMessage*>(message)->setAnswer(m_player->isPlaying());
+        detail = m_player->isPlaying() ? tr("yes") : tr("no");
         break;
     case MessageId::StopPlayer:
         m_player->pause();
         break;
-    case MessageId::Seek:
-        m_player->seek(static_cast<MvSeekMessage*>(message)->frame());
-        break;
-    default:
+    case MessageId::Seek: {
+        const qint64 frame = static_cast<MvSeekMessage*>(message)->frame();
+        m_player->seek(frame);
+        detail = tr("to frame %1").arg(frame);
         break;
     }
-    Q_EMIT journal(QStringLiteral("scene: %1 %2").arg(QString::fromLatin1(message->typeName())).arg(id));
+    default:
+        for (const Handler& handler : qAsConst(m_handlers)) {
+            if (handler(message, &detail))
+                break;
+        }
+        break;
+    }
+    const QString words = MvDemoJournalWords::message(id);
+    Q_EMIT journal(detail.isEmpty() ? tr("scene: %1").arg(words) : tr("scene: %1: %2").arg(words, detail));
 }
 
-void MvDemoScene::answerGroupQuestion(MvMessage* message)
+QString MvDemoScene::answerGroupQuestion(MvMessage* message)
 {
     auto* question = static_cast<MvDataMessage*>(message);
     if (!m_interactive) {
         // Offscreen there is nobody to ask: split and keep the groups, the most common answer.
         question->setData(QVariantList { true, false });
-        return;
+        return tr("split and keep the groups");
     }
     QMessageBox box(QMessageBox::Question, tr("Split grouped clips"),
         tr("Some of the clips to split belong to a group. Ungroup them before splitting?"), QMessageBox::NoButton,
@@ -56,8 +71,13 @@ void MvDemoScene::answerGroupQuestion(MvMessage* message)
     QPushButton* keep = box.addButton(tr("Split and Keep Groups"), QMessageBox::AcceptRole);
     box.addButton(QMessageBox::Cancel);
     box.exec();
-    if (box.clickedButton() == ungroup)
+    if (box.clickedButton() == ungroup) {
         question->setData(QVariantList { true, true });
-    else if (box.clickedButton() == keep)
+        return tr("ungroup and split");
+    }
+    if (box.clickedButton() == keep) {
         question->setData(QVariantList { true, false });
+        return tr("split and keep the groups");
+    }
+    return tr("cancelled");
 }

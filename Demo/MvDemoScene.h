@@ -2,8 +2,11 @@
 
 #include "IMvScene.h"
 
+#include <QList>
 #include <QObject>
 #include <QStringList>
+
+#include <functional>
 
 class QWidget;
 class MvDemoPlayer;
@@ -19,6 +22,10 @@ public:
 
     void setDialogParent(QWidget* parent) { m_dialogParent = parent; }
     void setInteractive(bool interactive) { m_interactive = interactive; }
+    // A panel of the host (property panel, media library, ...) takes the messages it knows: true
+    // when it took one, with what it did in words.
+    using Handler = std::function<bool(MvMessage* message, QString* detail)>;
+    void addMessageHandler(Handler handler) { m_handlers.append(std::move(handler)); }
 
     void receiveMessage(int id) override;
     void receiveMessage(MvMessage* message) override;
@@ -27,9 +34,11 @@ Q_SIGNALS:
     void journal(const QString& line);
 
 private:
-    void answerGroupQuestion(MvMessage* message);
+    // The answer given, in words.
+    QString answerGroupQuestion(MvMessage* message);
 
     MvDemoPlayer* m_player;
     QWidget* m_dialogParent = nullptr;
     bool m_interactive = true;
+    QList<Handler> m_handlers;
 };

@@ -5,42 +5,25 @@
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
 #include "IMvTrack.h"
+#include "MvDemoNavigation.h"
+#include "MvDemoTrackPainter.h"
 #include "MvEventFilterManager.h"
+#include "MvTimelineRulerPresenter.h"
+#include "MvToolTipHelper.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
-using namespace MVVBLMODEL;
-
-namespace {
-QColor colorOfType(MvClipType type)
-{
-    if (isAudioClipType(type))
-        return QColor(0x2E, 0x8B, 0x57);
-    switch (type) {
-    case ClipType_Image:
-        return QColor(0x8E, 0x6C, 0xC9);
-    case ClipType_Text:
-    case ClipType_Title:
-    case ClipType_Subtitle:
-        return QColor(0xC9, 0x8A, 0x2E);
-    case ClipType_Sticker:
-    case ClipType_Shape:
-        return QColor(0xC9, 0x4F, 0x7C);
-    case ClipType_Effect:
-    case ClipType_Filter:
-    case ClipType_Adjustment:
-        return QColor(0x5A, 0x7E, 0x8F);
-    default:
-        return QColor(0x3A, 0x6E, 0xC4);
-    }
-}
-}
-
 MvDemoTrackArea::MvDemoTrackArea(IMvTimeline* timeline, QWidget* parent)
-    : QWidget(parent), m_timeline(timeline), m_filters(new MvEventFilterManager(this))
+    : QWidget(parent)
+    , m_timeline(timeline)
+    , m_filters(new MvEventFilterManager(this))
+    , m_mapping(timeline->ruler())
 {
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     QPalette pal = palette();
     pal.setColor(QPalette::Window, QColor(0x26, 0x27, 0x2C));
@@ -55,46 +38,128 @@ MvDemoTrackArea::~MvDemoTrackArea()
     m_timeline->playhead()->removeObserver(this);
 }
 
+void MvDemoTrackArea::setRulerSpan(int originX, int width)
+{
+    if (originX == m_mapping.originX() && width == m_rulerWidth)
+        return;
+    m_mapping.setOriginX(originX);
+    m_rulerWidth = width;
+    update();
+}
+
+QRect MvDemoTrackArea::rulerSpan() const
+{
+    return QRect(m_mapping.originX(), 0, m_rulerWidth > 0 ? m_rulerWidth : width() - m_mapping.originX(), height());
+}
+
+void MvDemoTrackArea::setScrollY(int scrollY)
+{
+    scrollY = qBound(0, scrollY, qMax(0, contentHeight() - height()));
+    if (scrollY == m_scrollY)
+        return;
+    m_scrollY = scrollY;
+    update();
+    Q_EMIT scrolled(m_scrollY);
+}
+
+int MvDemoTrackArea::contentHeight() const
+{
+    return rowTop(m_timeline->trackCount()) + m_scrollY + 8;
+}
+
 QSize MvDemoTrackArea::sizeHint() const
 {
-    return QSize(900, rowTop(m_timeline->trackCount()) + 8);
+    return QSize(900, contentHeight());
+}
+
+QSize MvDemoTrackArea::minimumSizeHint() const
+{
+    // Two rows stay in sight however small the window: the journal gives way first.
+    return QSize(200, 120);
 }
 
 int MvDemoTrackArea::rowTop(int trackIndex) const
 {
-    int y = 0;
+    int y = -m_scrollY;
     for (int i = 0; i < trackIndex && i < m_timeline->trackCount(); ++i)
-        y += m_timeline->trackAt(i)->height() + 2;
+        y += m_timeline->trackAt(i)->height() + kRowGap;
     return y;
 }
 
-QRect MvDemoTrackArea::clipRect(const IMvAbstractClip* clip, int rowTop, int rowHeight) const
+int MvDemoTrackArea::trackAt(int y) const
 {
-    IMvTimelineRuler* ruler = m_timeline->ruler();
-    const int x0 = ruler->frameToPixel(clip->start());
-    const int x1 = ruler->frameToPixel(clip->end() + 1);
-    return QRect(x0, rowTop + 2, qMax(1, x1 - x0 - 1), rowHeight - 4);
+    int top = -m_scrollY;
+    for (int i = 0; i < m_timeline->trackCount(); ++i) {
+        const int height = m_timeline->trackAt(i)->height();
+        if (y >= top && y < top + height)
+            return i;
+        top += height + kRowGap;
+    }
+    return -1;
+}
+
+int MvDemoTrackArea::nearestTrack(int y) const
+{
+    int top = -m_scrollY;
+    const int count = m_timeline->trackCount();
+    for (int i = 0; i < count; ++i) {
+        top += m_timeline->trackAt(i)->height() + kRowGap;
+        if (y < top)
+            return i;
+    }
+    return count - 1;
+}
+
+QRect MvDemoTrackArea::clipRect(const IMvAbstractClip* clip, int trackIndex) const
+{
+    const IMvTrack* track = m_timeline->trackAt(trackIndex);
+    const int top = rowTop(trackIndex);
+    const int x0 = m_mapping.xOf(clip->start());
+    const int x1 = m_mapping.xOf(clip->end() + 1);
+    return QRect(x0, top + 2, qMax(1, x1 - x0 - 1), (track ? track->height() : 0) - 4);
 }
 
 IMvAbstractClip* MvDemoTrackArea::itemAt(const QPoint& pos) const
 {
-    for (int i = 0; i < m_timeline->trackCount(); ++i) {
-        IMvTrack* track = m_timeline->trackAt(i);
-        const int top = rowTop(i);
-        if (pos.y() < top || pos.y() >= top + track->height())
-            continue;
-        const QList<IMvClip*> clips = track->clips();
-        for (IMvClip* clip : clips) {
-            // Transitions lie over their clip's edge and win the hit there.
-            const QList<IMvTransition*> transitions = clip->transitionList()->transitions();
-            for (IMvTransition* transition : transitions) {
-                if (clipRect(transition, top, track->height()).contains(pos))
-                    return transition;
-            }
+    const int index = trackAt(pos.y());
+    if (index < 0)
+        return nullptr;
+    const QList<IMvClip*> clips = m_timeline->trackAt(index)->clips();
+    for (IMvClip* clip : clips) {
+        // Transitions lie over their clip's edge and win the hit there.
+        const QList<IMvTransition*> transitions = clip->transitionList()->transitions();
+        for (IMvTransition* transition : transitions) {
+            if (clipRect(transition, index).contains(pos))
+                return transition;
         }
-        for (IMvClip* clip : clips) {
-            if (clipRect(clip, top, track->height()).contains(pos))
-                return clip;
+    }
+    for (IMvClip* clip : clips) {
+        if (clipRect(clip, index).contains(pos))
+            return clip;
+    }
+    return nullptr;
+}
+
+QRect MvDemoTrackArea::markerFlagRect(int x, int clipTop)
+{
+    return QRect(x - 1, clipTop, 11, 12);
+}
+
+IMvMarker* MvDemoTrackArea::clipMarkerAt(const QPoint& pos) const
+{
+    const int index = trackAt(pos.y());
+    if (index < 0)
+        return nullptr;
+    const QList<IMvClip*> clips = m_timeline->trackAt(index)->clips();
+    for (IMvClip* clip : clips) {
+        IMvMarkerList* list = clip->clipMarkers();
+        if (!list)
+            continue;
+        const int top = clipRect(clip, index).top();
+        const QList<IMvMarker*> markers = list->markers();
+        for (IMvMarker* marker : markers) {
+            if (markerFlagRect(m_mapping.xOf(list->mapToTimeline(marker->frame())), top).contains(pos))
+                return marker;
         }
     }
     return nullptr;
@@ -106,110 +171,149 @@ bool MvDemoTrackArea::event(QEvent* event)
         setCursor(m_filters->getCursor());
         return true;
     }
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (!showMarkerToolTip(help->pos(), help->globalPos()))
+            MvToolTipHelper::hideToolTip();
+        return true;
+    }
     return QWidget::event(event);
+}
+
+bool MvDemoTrackArea::showMarkerToolTip(const QPoint& pos, const QPoint& globalPos)
+{
+    const IMvMarker* marker = clipMarkerAt(pos);
+    if (!marker)
+        return false;
+    int numerator = 30;
+    int denominator = 1;
+    m_timeline->ruler()->frameRate(&numerator, &denominator);
+    const qint64 frame = marker->ownerList()->mapToTimeline(marker->frame());
+    QString text = marker->name().isEmpty() ? tr("Unnamed marker") : marker->name();
+    text += QLatin1Char('\n') + MvTimelineRulerPresenter::formatTimecode(int(frame), numerator, denominator);
+    if (!marker->comment().isEmpty())
+        text += QLatin1Char('\n') + marker->comment();
+    MvToolTipHelper::showToolTip(globalPos, text, false, 0);
+    return true;
 }
 
 void MvDemoTrackArea::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    const QList<IMvAbstractClip*> selected = m_timeline->selection()->selectedItems();
-    for (int i = 0; i < m_timeline->trackCount(); ++i) {
-        IMvTrack* track = m_timeline->trackAt(i);
-        const int top = rowTop(i);
-        const QColor rowColor = track->type() == TrackType_Audio ? QColor(0x2B, 0x30, 0x2D) : QColor(0x2C, 0x2E, 0x35);
-        painter.fillRect(QRect(0, top, width(), track->height()), track->isLocked() ? rowColor.darker(130) : rowColor);
-        const QList<IMvClip*> clips = track->clips();
-        for (IMvClip* clip : clips)
-            paintClip(painter, clip, clipRect(clip, top, track->height()), selected.contains(clip));
-        for (IMvClip* clip : clips) {
-            const QList<IMvTransition*> transitions = clip->transitionList()->transitions();
-            for (IMvTransition* transition : transitions) {
-                const QRect r = clipRect(transition, top, track->height());
-                painter.fillRect(r, QBrush(QColor(255, 255, 255, selected.contains(transition) ? 200 : 110),
-                                        Qt::BDiagPattern));
-                if (selected.contains(transition)) {
-                    painter.setPen(QPen(Qt::white, 2));
-                    painter.drawRect(r.adjusted(1, 1, -1, -1));
-                }
-            }
-        }
-    }
-    paintVirtualPlayhead(painter);
-}
-
-void MvDemoTrackArea::paintVirtualPlayhead(QPainter& painter) const
-{
-    IMvTimelinePlayhead* playhead = m_timeline->playhead();
-    if (!playhead->isVirtualOpen())
-        return;
-    // While the virtual playhead is open the host draws it: a dashed line over a tinted area.
-    painter.fillRect(rect(), QColor(0x8E, 0x6C, 0xC9, 28));
-    const int x = m_timeline->ruler()->frameToPixel(playhead->currentFrame());
-    painter.setPen(QPen(QColor(0xC9, 0xA8, 0xFF), 2, Qt::DashLine));
-    painter.drawLine(x, 0, x, height());
-    painter.drawText(QRect(x + 6, height() - 22, 200, 20), Qt::AlignLeft | Qt::AlignVCenter, tr("virtual playhead"));
-}
-
-void MvDemoTrackArea::paintClip(QPainter& painter, IMvClip* clip, const QRect& rect, bool selected) const
-{
-    if (rect.right() < 0 || rect.left() > width())
-        return;
-    painter.fillRect(rect, colorOfType(clip->type()));
-    if (clip->groupKind() != 0)
-        painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 3), QColor(0xF2, 0xC9, 0x4C));
-    painter.setPen(selected ? QPen(Qt::white, 2) : QPen(colorOfType(clip->type()).lighter(140), 1));
-    painter.drawRect(rect.adjusted(0, 0, -1, -1));
-    painter.setPen(Qt::white);
-    QString label = clip->name();
-    if (clip->rotation() != 0)
-        label += QStringLiteral("  \u21bb%1\u00b0").arg(clip->rotation());
-    painter.drawText(rect.adjusted(6, 2, -4, -2), Qt::AlignLeft | Qt::AlignTop, label);
-    paintClipDetails(painter, clip, rect);
-}
-
-void MvDemoTrackArea::paintClipDetails(QPainter& painter, IMvClip* clip, const QRect& rect) const
-{
-    IMvTimelineRuler* ruler = m_timeline->ruler();
-    // Keyframes as small diamonds along the bottom, clip markers as ticks along the top.
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    for (bool audio : { false, true }) {
-        const QList<qint64> frames = clip->keyFrames(audio);
-        for (qint64 frame : frames) {
-            const int x = ruler->frameToPixel(clip->start() + frame);
-            const int y = rect.bottom() - 6 - (audio ? 8 : 0);
-            QPolygon diamond({ QPoint(x, y - 4), QPoint(x + 4, y), QPoint(x, y + 4), QPoint(x - 4, y) });
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(audio ? QColor(0x9F, 0xE8, 0xB5) : QColor(0xFF, 0xE0, 0x80));
-            painter.drawPolygon(diamond);
-        }
-    }
-    if (IMvMarkerList* markers = clip->clipMarkers()) {
-        const QList<IMvMarker*> list = markers->markers();
-        for (IMvMarker* marker : list) {
-            const int x = ruler->frameToPixel(markers->mapToTimeline(marker->frame()));
-            painter.fillRect(QRect(x - 1, rect.top(), 3, 8), marker->color());
-        }
-    }
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(Qt::NoBrush);
+    MvDemoTrackPainter paint(painter, *this);
+    paint.rows();
+    paint.virtualPlayhead();
+    paint.dragPreview();
+    paint.rubberBand(m_band);
+    if (hasFocus())
+        paint.focusFrame();
 }
 
 void MvDemoTrackArea::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    IMvSelection* selection = m_timeline->selection();
+    cancelGestures();
+    m_pressPos = event->pos();
     IMvAbstractClip* item = itemAt(event->pos());
-    QList<IMvAbstractClip*> items = selection->selectedItems();
-    if (event->modifiers() & Qt::ControlModifier) {
-        if (item && !items.removeOne(item))
-            items.append(item);
-    } else {
-        items.clear();
-        if (item)
-            items.append(item);
+    if (item) {
+        pressOnItem(item, event->modifiers());
+        return;
     }
+    // Empty space: a band selection begins; without Ctrl it starts from nothing selected.
+    m_bandArmed = true;
+    m_bandAdditive = event->modifiers() & Qt::ControlModifier;
+    if (!m_bandAdditive)
+        selectItems({});
+}
+
+void MvDemoTrackArea::pressOnItem(IMvAbstractClip* item, Qt::KeyboardModifiers modifiers)
+{
+    QList<IMvAbstractClip*> items = m_timeline->selection()->selectedItems();
+    if (modifiers & Qt::ControlModifier) {
+        if (!items.removeOne(item))
+            items.append(item);
+        selectItems(items);
+        return;
+    }
+    if (!items.contains(item))
+        selectItems({ item });
+    else
+        m_pressItem = item; // a click without a drag narrows the selection to it on release
+    // Clips drag the selection along; a transition moves with its clip only.
+    m_dragArmed = dynamic_cast<IMvClip*>(item) != nullptr;
+}
+
+void MvDemoTrackArea::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!(event->buttons() & Qt::LeftButton))
+        return;
+    const bool travelled = (event->pos() - m_pressPos).manhattanLength() >= QApplication::startDragDistance();
+    if (m_dragArmed && !m_drag.isActive() && travelled) {
+        const int pressTrack = nearestTrack(m_pressPos.y());
+        m_drag.start(
+            m_timeline, m_timeline->selection()->selectedClips(), m_mapping.frameAt(m_pressPos.x()), pressTrack);
+        m_pressItem = nullptr;
+    }
+    if (m_drag.isActive()) {
+        const qint64 threshold = m_snapping ? m_mapping.framesIn(kSnapPixels) : 0;
+        m_drag.moveTo(m_mapping.frameAt(event->pos().x()), nearestTrack(event->pos().y()), threshold);
+        update();
+        return;
+    }
+    if (m_bandArmed && travelled) {
+        m_band = QRect(m_pressPos, event->pos()).normalized();
+        update();
+    }
+}
+
+void MvDemoTrackArea::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (m_drag.isActive()) {
+        const qint64 frames = m_drag.frameOffset();
+        const int tracks = m_drag.trackOffset();
+        cancelGestures();
+        update();
+        if (frames != 0 || tracks != 0)
+            Q_EMIT moveRequested(frames, tracks);
+        return;
+    }
+    if (!m_band.isNull())
+        selectInBand(m_bandAdditive);
+    else if (m_pressItem)
+        selectItems({ m_pressItem });
+    cancelGestures();
+    update();
+}
+
+void MvDemoTrackArea::cancelGestures()
+{
+    m_drag.clear();
+    m_dragArmed = false;
+    m_bandArmed = false;
+    m_band = QRect();
+    m_pressItem = nullptr;
+}
+
+void MvDemoTrackArea::selectInBand(bool additive)
+{
+    QList<IMvAbstractClip*> items = additive ? m_timeline->selection()->selectedItems() : QList<IMvAbstractClip*>();
+    for (int i = 0; i < m_timeline->trackCount(); ++i) {
+        const QList<IMvClip*> clips = m_timeline->trackAt(i)->clips();
+        for (IMvClip* clip : clips) {
+            if (clipRect(clip, i).intersects(m_band) && !items.contains(clip))
+                items.append(clip);
+        }
+    }
+    selectItems(items);
+}
+
+void MvDemoTrackArea::selectItems(const QList<IMvAbstractClip*>& items)
+{
+    IMvSelection* selection = m_timeline->selection();
     selection->setTimelineSelected(false);
     selection->selectItems(items);
     update();
@@ -222,9 +326,48 @@ void MvDemoTrackArea::mouseDoubleClickEvent(QMouseEvent* event)
         Q_EMIT itemDoubleClicked(item);
 }
 
+void MvDemoTrackArea::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && (m_drag.isActive() || !m_band.isNull())) {
+        cancelGestures();
+        update();
+        return;
+    }
+    IMvTimelinePlayhead* playhead = m_timeline->playhead();
+    const qint64 target = MvDemoNavigation::playheadTarget(event->key(), event->modifiers(), playhead->currentFrame(),
+        m_timeline->duration(), MvDemoNavigation::framesPerSecond(m_timeline->ruler()));
+    if (target < 0) {
+        // Left to the window: a shortcut of a command that cannot run now ends up there.
+        event->ignore();
+        return;
+    }
+    playhead->setCurrentFrame(target);
+}
+
+void MvDemoTrackArea::contextMenuEvent(QContextMenuEvent* event)
+{
+    IMvAbstractClip* item = itemAt(event->pos());
+    if (item && !m_timeline->selection()->selectedItems().contains(item))
+        selectItems({ item });
+    Q_EMIT contextMenuRequested(item ? MenuPlace::Clip : MenuPlace::EmptySpace, event->globalPos());
+}
+
 void MvDemoTrackArea::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    setScrollY(m_scrollY);
+    update();
+}
+
+void MvDemoTrackArea::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void MvDemoTrackArea::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
     update();
 }
 

@@ -1,50 +1,62 @@
 #include "MvDemoWindow.h"
 
+#include "IMvMarker.h"
 #include "IMvSelection.h"
+#include "IMvShortcutEditManager.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvSampleProject.h"
+#include "MvDemoJournal.h"
+#include "MvDemoMarkerDialogStyle.h"
+#include "MvDemoMarkers.h"
+#include "MvDemoNavigation.h"
 #include "MvDemoPlayer.h"
+#include "MvDemoPlayheadOverlay.h"
+#include "MvDemoPlayheadTheme.h"
 #include "MvDemoPresenter.h"
+#include "MvDemoRefusals.h"
+#include "MvDemoRenderSimulator.h"
 #include "MvDemoScene.h"
+#include "MvDemoTimelineColumn.h"
 #include "MvDemoToastHost.h"
 #include "MvDemoTrackArea.h"
 #include "MvDemoTrackHeaders.h"
-#include "MvDemoRenderSimulator.h"
-#include "MvDemoMarkers.h"
-#include "MvDemoPlayheadTheme.h"
-#include "IMvMarker.h"
-#include "IMvShortcutEditManager.h"
-#include "MvEventFilterManager.h"
-#include "MvTimelinePlayheadWidget.h"
-#include "MvTimelineRenderWidget.h"
 #include "MvTimelineRulerPresenter.h"
 #include "MvTimelineRulerWidget.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTimer>
-#include <QVBoxLayout>
 
-MvDemoWindow::MvDemoWindow(bool interactive, QWidget* parent)
-    : QMainWindow(parent), m_timeline(new MvMemoryTimeline(0))
+namespace {
+const QSize kMinimumSize(720, 420);
+constexpr int kJournalHeight = 150;
+}
+
+MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
+    : QMainWindow(parent)
+    , m_timeline(new MvMemoryTimeline(0))
 {
-    setWindowTitle(tr("MvTimeline Demo"));
+    m_logRouter = new MvDemoLogRouter(verbose, this);
+    connect(m_logRouter, &MvDemoLogRouter::journal, this, &MvDemoWindow::appendJournal);
+    setWindowTitle(tr("%1[*] - MvTimeline Demo").arg(projectName()));
     MvSampleProject::build(*m_timeline);
     m_player = new MvDemoPlayer(m_timeline.data(), this);
     m_scene = new MvDemoScene(m_player, this);
     m_scene->setDialogParent(this);
     m_scene->setInteractive(interactive);
     connect(m_scene, &MvDemoScene::journal, this, &MvDemoWindow::appendJournal);
-    new MvDemoToastHost(this);
+    m_toastHost = new MvDemoToastHost(this);
 
     m_presenter = new MvDemoPresenter(this, m_timeline.data());
     m_presenter->setScene(m_scene);
@@ -52,18 +64,27 @@ MvDemoWindow::MvDemoWindow(bool interactive, QWidget* parent)
     connect(m_presenter, &MvTimelinePresenter::sigActionStatusChanged, this, &MvDemoWindow::refreshActions);
 
     buildLayout();
+    buildJournal();
+    buildPanels();
     buildMenus();
+    connectViews();
+    qApp->installEventFilter(new MvDemoMarkerDialogStyle(this));
     m_timeline->addChangeListener([this] { modelChanged(); });
     setTrackSize(1);
     refreshActions();
+    // Explicit, and above what the layouts need: the timeline stays workable, and the layouts never
+    // have to push a minimum of their own onto the shown window.
+    setMinimumSize(kMinimumSize);
     resize(1280, 720);
+    trackArea()->setFocus();
 }
 
 MvDemoWindow::~MvDemoWindow()
 {
-    // Widgets and presenters observe the model; they go before the model does.
-    m_ruler->eventFilterMgr()->removeFilter(m_playhead);
-    m_trackArea->eventFilterMgr()->removeFilter(m_playhead);
+    // Widgets and presenters observe the model; they go before the model does. The views stop
+    // reporting to this window first: they are taken apart before it is.
+    ruler()->removeEventFilter(this);
+    trackArea()->removeEventFilter(this);
     delete centralWidget();
     delete m_markerPresenter;
     delete m_playheadPresenter;
@@ -72,151 +93,238 @@ MvDemoWindow::~MvDemoWindow()
     delete m_presenter;
 }
 
+QString MvDemoWindow::projectName()
+{
+    return tr("A day by the sea");
+}
+
+MvDemoTrackArea* MvDemoWindow::trackArea() const
+{
+    return m_column->trackArea();
+}
+
+MvTimelineRulerWidget* MvDemoWindow::ruler() const
+{
+    return m_column->ruler();
+}
+
+MvTimelinePlayheadWidget* MvDemoWindow::playheadWidget() const
+{
+    return m_column->playheadOverlay();
+}
+
 void MvDemoWindow::buildLayout()
 {
     auto* central = new QWidget(this);
     auto* rows = new QHBoxLayout(central);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    auto* right = new QWidget(central);
-    m_timelineColumn = right;
-    right->installEventFilter(this);
-    auto* column = new QVBoxLayout(right);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
     m_rulerPresenter = new MvTimelineRulerPresenter(m_presenter, this);
-    m_ruler = new MvTimelineRulerWidget(m_rulerPresenter, right);
-    m_ruler->setFixedHeight(28);
-    m_renderStrip = new MvTimelineRenderWidget(m_presenter, right);
-    m_renderStrip->setFixedHeight(4);
-    m_renderStrip->setFinishedColor(QColor(0x3C, 0xB3, 0x71));
-    m_renderStrip->setUnFinishedColor(QColor(0xD9, 0x53, 0x4F));
-    m_trackArea = new MvDemoTrackArea(m_timeline.data(), right);
     m_markerPresenter = new MvDemoMarkerPresenter(m_presenter, this);
-    m_markerStrip = new MvDemoMarkerStrip(m_markerPresenter, right);
-    column->addWidget(m_markerStrip);
-    column->addWidget(m_ruler);
-    column->addWidget(m_renderStrip);
-    column->addWidget(m_trackArea, 1);
+    m_playheadPresenter = new MvDemoPlayheadPresenter(m_presenter, this);
+    m_column = new MvDemoTimelineColumn(m_presenter, m_rulerPresenter, m_markerPresenter, m_playheadPresenter, central);
     m_renderSimulator = new MvDemoRenderSimulator(m_timeline.data(), this);
-    buildPlayhead(right);
-    connect(m_rulerPresenter, &MvTimelineRulerPresenter::visualRangeChanged, m_markerPresenter,
-        &MvMarkerPresenter::signalMarkerCountChanged);
-    connect(m_rulerPresenter, &MvTimelineRulerPresenter::zoomChanged, m_markerPresenter,
-        &MvMarkerPresenter::signalMarkerCountChanged);
-    connect(m_markerStrip, &MvDemoMarkerStrip::markerPicked, this, [this](IMvMarker* marker) {
+    m_headers = new MvDemoTrackHeaders(m_timeline.data(), trackArea(), central);
+    rows->addWidget(m_headers);
+    rows->addWidget(m_column, 1);
+    setCentralWidget(central);
+    if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
+        shortcuts->setShortcutText(
+            MvCommandId::SplitClips, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
+}
+
+void MvDemoWindow::buildJournal()
+{
+    m_journalView = new QPlainTextEdit(this);
+    m_journalView->setReadOnly(true);
+    m_journalView->setTabChangesFocus(true);
+    // A small window gives the journal's height up before the tracks'.
+    m_journalView->setMinimumHeight(40);
+    m_journalDock = new QDockWidget(tr("Command journal"), this);
+    m_journalDock->setObjectName(QStringLiteral("journalDock"));
+    m_journalDock->setWidget(m_journalView);
+    addDockWidget(Qt::BottomDockWidgetArea, m_journalDock);
+    resizeDocks({ m_journalDock }, { kJournalHeight }, Qt::Vertical);
+    m_status = new QLabel(this);
+    statusBar()->addPermanentWidget(m_status);
+}
+
+void MvDemoWindow::connectViews()
+{
+    MvDemoTrackArea* area = trackArea();
+    connect(m_column->markerStrip(), &MvDemoMarkerStrip::markerPicked, this, [this](IMvMarker* marker) {
         m_timeline->markerModel()->setSelectedMarker(marker);
         m_timeline->selection()->setTimelineSelected(true);
         m_timeline->playhead()->setCurrentFrame(marker->ownerList()->mapToTimeline(marker->frame()));
         refreshActions();
     });
-    connect(m_markerStrip, &MvDemoMarkerStrip::editRequested, this,
+    connect(m_column->markerStrip(), &MvDemoMarkerStrip::editRequested, this,
         [this] { m_actions.value(QStringLiteral("edit-marker"))->trigger(); });
-    m_headers = new MvDemoTrackHeaders(m_timeline.data(), m_trackArea, central);
-    rows->addWidget(m_headers);
-    rows->addWidget(right, 1);
-    setCentralWidget(central);
-    connect(m_trackArea, &MvDemoTrackArea::selectionChanged, this, &MvDemoWindow::refreshActions);
-    connect(m_trackArea, &MvDemoTrackArea::playheadMoved, this, &MvDemoWindow::refreshActions);
-    connect(m_headers, &MvDemoTrackHeaders::lockToggled, this, &MvDemoWindow::refreshActions);
-
-    m_journalView = new QPlainTextEdit(this);
-    m_journalView->setReadOnly(true);
-    auto* dock = new QDockWidget(tr("Command journal"), this);
-    dock->setWidget(m_journalView);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    m_status = new QLabel(this);
-    statusBar()->addWidget(m_status, 1);
-}
-
-void MvDemoWindow::buildPlayhead(QWidget* column)
-{
-    m_playheadPresenter = new MvDemoPlayheadPresenter(m_presenter, this);
-    m_playhead = new MvTimelinePlayheadWidget(m_playheadPresenter, column);
-    // The overlay sees the ruler's and the track area's mouse events before they do.
-    m_ruler->eventFilterMgr()->addFilter(m_playhead);
-    m_trackArea->eventFilterMgr()->addFilter(m_playhead);
+    connect(m_rulerPresenter, &MvTimelineRulerPresenter::visualRangeChanged, m_markerPresenter,
+        &MvMarkerPresenter::signalMarkerCountChanged);
+    connect(m_rulerPresenter, &MvTimelineRulerPresenter::zoomChanged, m_markerPresenter,
+        &MvMarkerPresenter::signalMarkerCountChanged);
+    connect(area, &MvDemoTrackArea::selectionChanged, this, &MvDemoWindow::refreshActions);
+    connect(area, &MvDemoTrackArea::playheadMoved, this, &MvDemoWindow::refreshActions);
+    connect(area, &MvDemoTrackArea::moveRequested, this, &MvDemoWindow::moveSelection);
+    connect(area, &MvDemoTrackArea::contextMenuRequested, this,
+        [this](MvDemoTrackArea::MenuPlace place, const QPoint& globalPos) {
+            showContextMenu(place == MvDemoTrackArea::MenuPlace::Clip ? MvDemoContextMenus::Place::Clip
+                                                                      : MvDemoContextMenus::Place::EmptySpace,
+                globalPos);
+        });
+    connect(m_headers, &MvDemoTrackHeaders::lockToggled, this, &MvDemoWindow::viewsChanged);
+    connect(m_headers, &MvDemoTrackHeaders::contextMenuRequested, this, &MvDemoWindow::showTrackMenu);
+    connect(ruler(), &QWidget::customContextMenuRequested, this, &MvDemoWindow::showRulerMenu);
+    connect(m_playheadPresenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, m_player, &MvDemoPlayer::pause);
     // A click on the split button selects the new pieces after the model's step has closed:
     // the menus catch up once the click has been handled.
-    m_ruler->installEventFilter(this);
-    m_trackArea->installEventFilter(this);
-    connect(m_playheadPresenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, m_player, &MvDemoPlayer::pause);
-    if (auto* shortcuts = dynamic_cast<MvShortcutEditManager*>(IMvShortcutEditManager::GetInstance()))
-        shortcuts->setShortcutText(MvCommandId::SplitClips, QKeySequence(Qt::CTRL + Qt::Key_B).toString(QKeySequence::NativeText));
+    ruler()->installEventFilter(this);
+    area->installEventFilter(this);
 }
 
 bool MvDemoWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    // The playhead overlay spans the ruler and the tracks, with its x = 0 on the ruler's.
-    if ((watched == m_ruler || watched == m_trackArea) && event->type() == QEvent::MouseButtonRelease) {
-        QTimer::singleShot(0, this, [this] {
-            m_trackArea->update();
-            refreshActions();
-        });
-    }
-    if (watched == m_timelineColumn && event->type() == QEvent::Resize && m_playhead) {
-        m_playhead->setGeometry(0, m_ruler->y(), m_timelineColumn->width(), m_timelineColumn->height() - m_ruler->y());
-        m_playhead->raise();
-    }
+    if ((watched == ruler() || watched == trackArea()) && event->type() == QEvent::MouseButtonRelease)
+        QTimer::singleShot(0, this, &MvDemoWindow::viewsChanged);
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MvDemoWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    keepTracksInSight();
+}
+
+void MvDemoWindow::keepTracksInSight()
+{
+    // The main window gives a smaller height to the central widget first; the tracks are what a
+    // person works in, so the journal gives its height up first, down to its minimum, and takes
+    // it back, up to its usual height, when the tracks have room to spare.
+    if (!isVisible() || !m_journalDock->isVisible() || m_journalDock->isFloating())
+        return;
+    const int spare = m_column->height() - m_column->sizeHint().height();
+    const int current = m_journalDock->height();
+    int journal = current;
+    if (spare < 0)
+        journal = qMax(m_journalDock->minimumSizeHint().height(), current + spare);
+    else if (current < kJournalHeight)
+        journal = qMin(kJournalHeight, current + spare);
+    if (journal != current)
+        resizeDocks({ m_journalDock }, { journal }, Qt::Vertical);
+}
+
+void MvDemoWindow::viewsChanged()
+{
+    trackArea()->update();
+    m_headers->update();
+    refreshActions();
 }
 
 void MvDemoWindow::modelChanged()
 {
-    m_trackArea->update();
+    trackArea()->update();
     m_headers->update();
     Q_EMIT m_markerPresenter->signalMarkerCountChanged();
+    m_column->refreshScrollBars();
     refreshActions();
 }
 
-QAction* MvDemoWindow::addCommand(
-    QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, std::function<void()> command)
+void MvDemoWindow::runCommand(const QString& name, const Command& command)
 {
-    auto* action = menu->addAction(text);
-    action->setShortcut(shortcut);
-    connect(action, &QAction::triggered, this, [this, name, command] {
-        appendJournal(QStringLiteral("command: %1").arg(name));
-        command();
-        m_trackArea->update();
-        m_headers->update();
-        refreshActions();
-    });
-    m_actions.insert(name, action);
-    return action;
+    QAction* action = m_actions.value(name);
+    appendJournal(tr("command: %1").arg(action ? action->text().remove(QLatin1Char('&')) : name));
+    // The reason is read before the command runs: afterwards the state may have moved on.
+    const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).reason(name);
+    if (!command() && !reason.isEmpty())
+        tellRefusal(reason);
+    viewsChanged();
 }
 
-void MvDemoWindow::buildMenus()
+bool MvDemoWindow::moveSelection(qint64 frameOffset, int trackOffset)
 {
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    addCommand(file, QStringLiteral("quit"), tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+    const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).moveReason(frameOffset, trackOffset);
+    appendJournal(tr("drag: move the selection by %1 frames and %2 rows").arg(frameOffset).arg(trackOffset));
+    // A diagonal drag takes two commands; when one of them would be refused the clips would end
+    // up half moved, so such a drag is not started at all.
+    const bool diagonal = frameOffset != 0 && trackOffset != 0;
+    bool moved = false;
+    bool halfMoved = false;
+    if (!diagonal || reason.isEmpty()) {
+        // One step to undo, not one per direction.
+        MvUndoRedoCommander step(
+            m_timeline->undoRedoService(), QStringLiteral("move clips"), QStringLiteral("MvDemoWindow::moveSelection"));
+        if (frameOffset != 0)
+            moved = m_presenter->moveClipsHorizontal(frameOffset);
+        if (trackOffset != 0 && (moved || !diagonal)) {
+            halfMoved = diagonal;
+            moved = m_presenter->moveClipsVertical(trackOffset);
+        }
+    }
+    // Should the model refuse what the host foresaw as possible, the half move goes back.
+    if (halfMoved && !moved)
+        m_timeline->undoRedoService()->undo();
+    if (!moved)
+        tellRefusal(reason.isEmpty() ? tr("The clips cannot move there.") : reason);
+    viewsChanged();
+    return moved;
+}
 
-    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-    IMvUndoRedoService* undo = m_timeline->undoRedoService();
-    addCommand(edit, QStringLiteral("undo"), tr("&Undo"), QKeySequence::Undo, [undo] { undo->undo(); });
-    addCommand(edit, QStringLiteral("redo"), tr("&Redo"), QKeySequence::Redo, [undo] { undo->redo(); });
+void MvDemoWindow::tellRefusal(const QString& text)
+{
+    appendJournal(tr("refused: %1").arg(text));
+    m_toastHost->showNotice(text);
+}
 
-    buildClipMenu();
-    buildMarkerAndKeyFrameMenus();
+void MvDemoWindow::keyPressEvent(QKeyEvent* event)
+{
+    // Keys nobody took: the shortcut of a command that cannot run now is disabled, and the
+    // user still deserves to hear why nothing happened.
+    const int modifiers = int(event->modifiers() & ~Qt::KeypadModifier);
+    if (!explainDisabledShortcut(QKeySequence(event->key() | modifiers)))
+        QMainWindow::keyPressEvent(event);
+}
 
-    QMenu* view = menuBar()->addMenu(tr("&View"));
-    addCommand(view, QStringLiteral("zoom-fit"), tr("Zoom to &Fit"), QKeySequence(Qt::SHIFT + Qt::Key_Z),
-        [this] { m_presenter->fitTimeline(); });
-    addCommand(view, QStringLiteral("zoom-in"), tr("Zoom &In"), QKeySequence::ZoomIn, [this] {
-        m_rulerPresenter->zoom(-120);
-        m_rulerPresenter->moveCurrentFrameToCenter();
-    });
-    addCommand(view, QStringLiteral("zoom-out"), tr("Zoom &Out"), QKeySequence::ZoomOut, [this] {
-        m_rulerPresenter->zoom(120);
-        m_rulerPresenter->moveCurrentFrameToCenter();
-    });
-    view->addSeparator();
-    addCommand(view, QStringLiteral("rows-small"), tr("Small Tracks"), QKeySequence(), [this] { setTrackSize(0); });
-    addCommand(view, QStringLiteral("rows-normal"), tr("Normal Tracks"), QKeySequence(), [this] { setTrackSize(1); });
-    addCommand(view, QStringLiteral("rows-large"), tr("Large Tracks"), QKeySequence(), [this] { setTrackSize(2); });
+bool MvDemoWindow::explainDisabledShortcut(const QKeySequence& keys)
+{
+    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
+        QAction* action = it.value();
+        if (action->isEnabled() || action->shortcut().isEmpty() || action->shortcut() != keys)
+            continue;
+        const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).reason(it.key());
+        tellRefusal(
+            reason.isEmpty() ? tr("%1 is not available now.").arg(action->text().remove(QLatin1Char('&'))) : reason);
+        return true;
+    }
+    return false;
+}
 
-    QMenu* playback = menuBar()->addMenu(tr("&Playback"));
-    addCommand(playback, QStringLiteral("play"), tr("Play / Pause"), QKeySequence(Qt::Key_Space),
-        [this] { m_player->toggle(); });
+QMenu* MvDemoWindow::contextMenu(MvDemoContextMenus::Place place)
+{
+    refreshActions();
+    return MvDemoContextMenus::build(
+        place, [this](const QString& name) { return m_actions.value(name); }, this);
+}
+
+void MvDemoWindow::showContextMenu(MvDemoContextMenus::Place place, const QPoint& globalPos)
+{
+    QScopedPointer<QMenu> menu(contextMenu(place));
+    menu->exec(globalPos);
+}
+
+void MvDemoWindow::showTrackMenu(int trackIndex, const QPoint& globalPos)
+{
+    m_menuTrack = trackIndex;
+    showContextMenu(MvDemoContextMenus::Place::Track, globalPos);
+}
+
+void MvDemoWindow::showRulerMenu(const QPoint& pos)
+{
+    // As a click on the ruler does, the right click moves the playhead there; the commands of the
+    // ruler's menu then act on the timeline itself, not on a selected clip.
+    m_timeline->playhead()->setCurrentFrame(qMax<qint64>(0, m_timeline->ruler()->pixelToFrame(pos.x())));
+    m_timeline->selection()->setTimelineSelected(true);
+    showContextMenu(MvDemoContextMenus::Place::Ruler, ruler()->mapToGlobal(pos));
 }
 
 void MvDemoWindow::setTrackSize(int policy)
@@ -226,31 +334,52 @@ void MvDemoWindow::setTrackSize(int policy)
         const bool audio = m_timeline->trackAt(i)->type() == MVVBLMODEL::TrackType_Audio;
         m_presenter->adjustTrackHeight(i, audio ? qMax(0, policy - 1) : policy);
     }
-    m_trackArea->updateGeometry();
-    m_trackArea->update();
-    m_headers->update();
+    trackArea()->setScrollY(trackArea()->scrollY());
+    trackArea()->updateGeometry();
+    m_column->refreshScrollBars();
+    keepTracksInSight();
+    viewsChanged();
+}
+
+void MvDemoWindow::setTrackSize(int trackIndex, int policy)
+{
+    m_presenter->adjustTrackHeight(trackIndex, policy);
+    trackArea()->setScrollY(trackArea()->scrollY());
+    m_column->refreshScrollBars();
+    viewsChanged();
 }
 
 void MvDemoWindow::refreshActions()
 {
     IMvUndoRedoService* undo = m_timeline->undoRedoService();
     m_actions.value(QStringLiteral("undo"))->setEnabled(undo->canUndo());
-    m_actions.value(QStringLiteral("undo"))->setText(
-        undo->canUndo() ? tr("&Undo %1").arg(undo->undoName()) : tr("&Undo"));
+    m_actions.value(QStringLiteral("undo"))
+        ->setText(undo->canUndo() ? tr("&Undo %1").arg(undo->undoName()) : tr("&Undo"));
     m_actions.value(QStringLiteral("redo"))->setEnabled(undo->canRedo());
-    m_actions.value(QStringLiteral("redo"))->setText(
-        undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
+    m_actions.value(QStringLiteral("redo"))
+        ->setText(undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
+    setWindowModified(undo->canUndo());
     refreshEditActions();
+    refreshPanelActions();
     refreshStatus();
+}
+
+QString MvDemoWindow::statusText() const
+{
+    int numerator = 30;
+    int denominator = 1;
+    m_timeline->ruler()->frameRate(&numerator, &denominator);
+    const qint64 frame = m_timeline->playhead()->currentFrame();
+    return tr("Playhead %1 (frame %2)   Selected items: %3   Undo steps: %4")
+        .arg(MvTimelineRulerPresenter::formatTimecode(int(frame), numerator, denominator))
+        .arg(frame)
+        .arg(m_timeline->selection()->count())
+        .arg(m_timeline->undoRedoService()->undoCount());
 }
 
 void MvDemoWindow::refreshStatus()
 {
-    const int selected = m_timeline->selection()->count();
-    m_status->setText(tr("Playhead %1   Selected items: %2   Undo steps: %3")
-                          .arg(m_timeline->playhead()->currentFrame())
-                          .arg(selected)
-                          .arg(m_timeline->undoRedoService()->undoCount()));
+    m_status->setText(statusText());
 }
 
 void MvDemoWindow::appendJournal(const QString& line)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MvDemoContextMenus.h"
+
 #include <QHash>
 #include <QMainWindow>
 #include <QScopedPointer>
@@ -7,20 +9,25 @@
 #include <functional>
 
 class QAction;
+class QDockWidget;
 class QLabel;
+class QMenu;
 class QPlainTextEdit;
 class MvMemoryTimeline;
+class MvDemoLibraryDock;
+class MvDemoLogRouter;
+class MvDemoMarkerPresenter;
 class MvDemoPlayer;
+class MvDemoPlayheadPresenter;
 class MvDemoPresenter;
+class MvDemoPropertiesDock;
+class MvDemoRenderSimulator;
 class MvDemoScene;
+class MvDemoTimelineColumn;
+class MvDemoToastHost;
 class MvDemoTrackArea;
 class MvDemoTrackHeaders;
-class MvDemoRenderSimulator;
-class MvDemoMarkerPresenter;
-class MvDemoMarkerStrip;
-class MvDemoPlayheadPresenter;
 class MvTimelinePlayheadWidget;
-class MvTimelineRenderWidget;
 class MvTimelineRulerPresenter;
 class MvTimelineRulerWidget;
 
@@ -30,53 +37,91 @@ class MvDemoWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MvDemoWindow(bool interactive, QWidget* parent = nullptr);
+    // A command reports whether it did something; when it did not, the window says why if it can.
+    using Command = std::function<bool()>;
+
+    // Not interactive: questions get the most common answer (the offscreen scenario). Verbose:
+    // the library's detail and note records reach the terminal too, not only the journal.
+    explicit MvDemoWindow(bool interactive, bool verbose = false, QWidget* parent = nullptr);
     ~MvDemoWindow() override;
+
+    static QString projectName();
 
     MvMemoryTimeline* timeline() const { return m_timeline.data(); }
     MvDemoPresenter* presenter() const { return m_presenter; }
-    MvDemoTrackArea* trackArea() const { return m_trackArea; }
-    MvTimelineRulerWidget* ruler() const { return m_ruler; }
+    MvDemoTimelineColumn* column() const { return m_column; }
+    MvDemoTrackArea* trackArea() const;
+    MvDemoTrackHeaders* trackHeaders() const { return m_headers; }
+    MvTimelineRulerWidget* ruler() const;
     MvDemoRenderSimulator* renderSimulator() const { return m_renderSimulator; }
-    MvTimelinePlayheadWidget* playheadWidget() const { return m_playhead; }
+    MvTimelinePlayheadWidget* playheadWidget() const;
     QAction* action(const QString& name) const { return m_actions.value(name); }
+    QString statusText() const;
     void appendJournal(const QString& line);
     QStringList journalLines() const { return m_journal; }
+    // The host's panels the presenter asks for (MvDemoPanelActions.cpp).
+    MvDemoPropertiesDock* propertiesDock() const { return m_propertiesDock; }
+    MvDemoLibraryDock* libraryDock() const { return m_libraryDock; }
+
+    // Tells the user why a command did nothing. One place, so that the notice can change its look.
+    void tellRefusal(const QString& text);
+    // The context menu of a place, as a right click opens it; the caller owns the menu.
+    QMenu* contextMenu(MvDemoContextMenus::Place place);
+    // Moves the selection as a drag of it asks: by frames, and by rows of the first clip's kind.
+    bool moveSelection(qint64 frameOffset, int trackOffset);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildLayout();
-    void buildPlayhead(QWidget* column);
+    void buildJournal();
+    void connectViews();
     void modelChanged();
     void buildMenus();
     void buildClipMenu();
     void buildMarkerAndKeyFrameMenus();
+    void buildViewMenu();
+    void buildTrackActions();
+    // The property panels and the media library (MvDemoPanelActions.cpp).
+    void buildPanels();
+    void buildPanelMenu();
+    void refreshPanelActions();
     void refreshEditActions();
-    QAction* addCommand(QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut,
-        std::function<void()> command);
+    QAction* addCommand(
+        QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, Command command);
+    void runCommand(const QString& name, const Command& command);
+    bool explainDisabledShortcut(const QKeySequence& keys);
     void refreshActions();
     void refreshStatus();
     void setTrackSize(int policy);
+    void setTrackSize(int trackIndex, int policy);
+    void showContextMenu(MvDemoContextMenus::Place place, const QPoint& globalPos);
+    void showTrackMenu(int trackIndex, const QPoint& globalPos);
+    void showRulerMenu(const QPoint& pos);
+    void viewsChanged();
+    void keepTracksInSight();
 
     QScopedPointer<MvMemoryTimeline> m_timeline;
+    MvDemoLogRouter* m_logRouter = nullptr;
     MvDemoPlayer* m_player = nullptr;
     MvDemoScene* m_scene = nullptr;
+    MvDemoToastHost* m_toastHost = nullptr;
     MvDemoPresenter* m_presenter = nullptr;
-    MvDemoTrackArea* m_trackArea = nullptr;
     MvTimelineRulerPresenter* m_rulerPresenter = nullptr;
-    MvTimelineRulerWidget* m_ruler = nullptr;
-    MvTimelineRenderWidget* m_renderStrip = nullptr;
-    MvDemoRenderSimulator* m_renderSimulator = nullptr;
     MvDemoMarkerPresenter* m_markerPresenter = nullptr;
-    MvDemoMarkerStrip* m_markerStrip = nullptr;
     MvDemoPlayheadPresenter* m_playheadPresenter = nullptr;
-    MvTimelinePlayheadWidget* m_playhead = nullptr;
-    QWidget* m_timelineColumn = nullptr;
+    MvDemoRenderSimulator* m_renderSimulator = nullptr;
+    MvDemoTimelineColumn* m_column = nullptr;
     MvDemoTrackHeaders* m_headers = nullptr;
     QPlainTextEdit* m_journalView = nullptr;
+    QDockWidget* m_journalDock = nullptr;
+    MvDemoPropertiesDock* m_propertiesDock = nullptr;
+    MvDemoLibraryDock* m_libraryDock = nullptr;
     QLabel* m_status = nullptr;
     QHash<QString, QAction*> m_actions;
     QStringList m_journal;
+    int m_menuTrack = 0; // the row a track header's menu acts on
 };

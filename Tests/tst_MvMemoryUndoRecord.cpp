@@ -86,7 +86,7 @@ QMap<QString, Command> clipEdits()
     };
 }
 
-QMap<QString, Command> itemAndStepEdits()
+QMap<QString, Command> itemEdits()
 {
     return {
         { QStringLiteral("group and ungroup"),
@@ -141,6 +141,12 @@ QMap<QString, Command> itemAndStepEdits()
                     for (IMvTransition* transition : street->liveTransitions())
                         street->transitionList()->remove(transition->identifier(), transition->placement());
                 } } },
+    };
+}
+
+QMap<QString, Command> stepEdits()
+{
+    return {
         { QStringLiteral("clip and track made in a step"),
             { 1,
                 [](Sample& s) {
@@ -176,7 +182,8 @@ const QMap<QString, Command>& commands()
 {
     static const QMap<QString, Command> all = [] {
         QMap<QString, Command> both = clipEdits();
-        both.insert(itemAndStepEdits());
+        both.insert(itemEdits());
+        both.insert(stepEdits());
         return both;
     }();
     return all;

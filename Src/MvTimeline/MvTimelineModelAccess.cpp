@@ -29,6 +29,11 @@ IMvUndoRedoService* undoService(const IMvTimeline* timeline)
     return timeline ? timeline->undoRedoService() : nullptr;
 }
 
+IMvKeyFrameSelector* keyFrameSelector(const IMvTimeline* timeline)
+{
+    return timeline ? timeline->keyFrameSelector() : nullptr;
+}
+
 qint64 playheadFrame(const IMvTimeline* timeline)
 {
     const IMvTimelinePlayhead* head = playhead(timeline);

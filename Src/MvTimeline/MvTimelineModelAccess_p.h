@@ -7,6 +7,7 @@
 class IMvAbstractClip;
 class IMvClip;
 class IMvClipEditService;
+class IMvKeyFrameSelector;
 class IMvMarkerList;
 class IMvSelection;
 class IMvTimeline;
@@ -21,6 +22,7 @@ MVTIMELINE_TEST_EXPORT IMvSelection* selection(const IMvTimeline* timeline);
 MVTIMELINE_TEST_EXPORT IMvTimelinePlayhead* playhead(const IMvTimeline* timeline);
 MVTIMELINE_TEST_EXPORT IMvClipEditService* editService(const IMvTimeline* timeline);
 MVTIMELINE_TEST_EXPORT IMvUndoRedoService* undoService(const IMvTimeline* timeline);
+MVTIMELINE_TEST_EXPORT IMvKeyFrameSelector* keyFrameSelector(const IMvTimeline* timeline);
 
 // The frame under the playhead: the position of every command at the playhead.
 MVTIMELINE_TEST_EXPORT qint64 playheadFrame(const IMvTimeline* timeline);

@@ -143,6 +143,31 @@ public:
     // the project-settings match, inserts them with the policy and tells the scene; returns the
     // clips created (empty on any failure). The caller's request is left as it is.
     QList<IMvClip*> addMedias(const MvTimelineAddMediaParam& param, int policy);
+    // Library resources: asks the media library for resources like the one the single selected
+    // item was made from (MvMediaLibraryFindSimilarMessage), after hiding the property panel.
+    bool canSearchSimilarResource();
+    void searchSimilarResource();
+
+    // Composed texts: asks the media editor to select the text layers of the single selected text
+    // item (MvMediaEditorSelectClipMessage), the main lines before the secondary ones.
+    bool canSelectAllSubTextClips();
+    void selectAllSubTextClips();
+
+    // Requests to the host's property panel, keyframe panel and advanced editors.
+    // The panel a clip's properties are shown in: PropertyType_Audio, PropertyType_Picture or
+    // PropertyType_None (also for null).
+    MVVBLMODEL::MvPropertyType getPropertyType(IMvClip* clip);
+    void showAdvancedColor();
+    // Shows the selection's property page, then the advanced editor of a text, subtitle or title.
+    void showAdvancedEdit(bool arg);
+    // The audio panel for the clip whose keyframes are selected, if any.
+    void openAudioPropertyPanel();
+    // Switches the host's property view to the clip's panel (NotifySwtichPropertView).
+    void showKeyFrameCustomizePanel(IMvClip* clip);
+    void addAnimation();
+    // A keyframe picked in the keyframe panel: its clip becomes the selection and the playhead goes
+    // to the keyframe (frame is a frame of the clip).
+    void selectedKeyFrameChanged(IMvClip* clip, qint64 frame);
 
     // Transitions. Each runs the item through the preparation chain of addMedias first, and tells
     // the scene what it placed (an add-media response with the value 2) unless the clips refused.

@@ -118,4 +118,21 @@ public:
     // Tracks (MvTimelinePresenterTracks.cpp).
     void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);
     int calcDetachAudioTrackIndex(IMvClip* clip) const;
+
+    // Library resources (MvTimelinePresenterSimilarResource.cpp).
+    bool canSearchSimilarResource() const;
+    void searchSimilarResource();
+
+    // Composed texts (MvTimelinePresenterSubText.cpp).
+    bool canSelectAllSubTextClips() const;
+    void selectAllSubTextClips();
+
+    // Property panel requests (MvTimelinePresenterPropertyPanel.cpp).
+    static MVVBLMODEL::MvPropertyType getPropertyType(const IMvClip* clip);
+    void showAdvancedColor();
+    void showAdvancedEdit(bool arg);
+    void openAudioPropertyPanel();
+    void showKeyFrameCustomizePanel(IMvClip* clip);
+    void addAnimation();
+    void selectedKeyFrameChanged(IMvClip* clip, qint64 frame);
 };

@@ -16,6 +16,7 @@ class IMvSmartKeyingNodes;
 class IMvTransition;
 class IMvEffectContainer;
 class IMvUndoRedoService;
+class IMvResourceInfo;
 
 // Anything placed on a track: media clips and transitions. Frames are timeline frames; a clip
 // covers start() .. end(), both included.
@@ -28,6 +29,9 @@ public:
     virtual qint64 start() const = 0;
     virtual qint64 end() const = 0;
     virtual QString name() const = 0;
+
+    // Library resources: what the item was made from, null for the user's own media.
+    virtual IMvResourceInfo* resourceInfo() const = 0;
 };
 
 // The transitions carried by one clip.
@@ -106,6 +110,10 @@ public:
     virtual bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) = 0;
     // A selection of every keyframe of that side.
     virtual IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const = 0;
+
+    // Composed texts: a secondary layer supports the main lines of its composed item (a caption
+    // under a name); a clip on a track is never secondary.
+    virtual bool isSecondary() const = 0;
 
     // Transitions and effects.
     virtual IMvClipTransitions* transitions() const = 0;

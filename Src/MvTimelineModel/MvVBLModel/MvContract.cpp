@@ -8,8 +8,10 @@
 #include "IMvKeyFrameSelector.h"
 #include "IMvMarker.h"
 #include "IMvProjectManager.h"
+#include "IMvResourceInfo.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
+#include "IMvTimelineClip.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
@@ -43,6 +45,8 @@ IMvMarkerModel::~IMvMarkerModel() = default;
 IMvSelection::~IMvSelection() = default;
 IMvSubItemSelection::~IMvSubItemSelection() = default;
 IMvTimeline::~IMvTimeline() = default;
+IMvTimelineClip::~IMvTimelineClip() = default;
+IMvResourceInfo::~IMvResourceInfo() = default;
 IMvPlayheadEventObserver::~IMvPlayheadEventObserver() = default;
 IMvTimelinePlayhead::~IMvTimelinePlayhead() = default;
 IMvTimelineRenderEventObserver::~IMvTimelineRenderEventObserver() = default;

@@ -101,6 +101,30 @@ const char* MvTimelineScrollToTrackMessage::typeName() const
     return "MvTimelineScrollToTrackMessage";
 }
 
+MvMediaLibraryFindSimilarMessage::MvMediaLibraryFindSimilarMessage(
+    const ResourceInfoData& resource, const QString& title, MVVBLMODEL::MvMediaCategoryType category)
+    : MvMessage(MVVBLMODEL::MessageId::MediaLibraryFindSimilar)
+    , m_resource(resource)
+    , m_title(title)
+    , m_category(category)
+{
+}
+
+const char* MvMediaLibraryFindSimilarMessage::typeName() const
+{
+    return "MvMediaLibraryFindSimilarMessage";
+}
+
+MvMediaEditorSelectClipMessage::MvMediaEditorSelectClipMessage()
+    : MvMessage(MVVBLMODEL::MessageId::MediaEditorSelectClip)
+{
+}
+
+const char* MvMediaEditorSelectClipMessage::typeName() const
+{
+    return "MvMediaEditorSelectClipMessage";
+}
+
 MvAudioEffectOverrideMessage::MvAudioEffectOverrideMessage(const QList<IMvClip*>& clips)
     : MvQueryMessage(MVVBLMODEL::MessageId::AudioEffectOverride)
     , m_clips(clips)

@@ -2,8 +2,11 @@
 
 #include "MvVBLModelGlobal.h"
 #include "MvMessage.h"
+#include "IMvResourceInfo.h"
 
 #include <QList>
+
+class IMvClip;
 
 // Asks the player to show a frame. The flag asks for an exact (slow) seek.
 class MVVBLMODEL_EXPORT MvSeekMessage : public MvMessage
@@ -46,7 +49,6 @@ private:
 // ---- Media insertion. The scene answers each before the send returns, in the message itself.
 
 class IMvAbstractMediaItem;
-class IMvClip;
 
 // A list of media items that the scene may change: what it leaves is the answer.
 class MVVBLMODEL_EXPORT MvMediaItemsMessage : public MvMessage
@@ -129,6 +131,44 @@ public:
 
 private:
     QList<IMvClip*> m_clips;
+};
+
+// Library resources and composed texts.
+
+// Asks the media library to show resources like the one an item was made from.
+class MVVBLMODEL_EXPORT MvMediaLibraryFindSimilarMessage : public MvMessage
+{
+public:
+    MvMediaLibraryFindSimilarMessage(
+        const ResourceInfoData& resource, const QString& title, MVVBLMODEL::MvMediaCategoryType category);
+
+    ResourceInfoData resourceInfoData() const { return m_resource; }
+    QString title() const { return m_title; }
+    MVVBLMODEL::MvMediaCategoryType categoryType() const { return m_category; }
+    const char* typeName() const override;
+
+private:
+    ResourceInfoData m_resource;
+    QString m_title;
+    MVVBLMODEL::MvMediaCategoryType m_category;
+};
+
+// Asks the media editor to select clips (the layers of a composed text, ...).
+class MVVBLMODEL_EXPORT MvMediaEditorSelectClipMessage : public MvMessage
+{
+public:
+    MvMediaEditorSelectClipMessage();
+
+    QList<IMvClip*> clips() const { return m_clips; }
+    void setClips(const QList<IMvClip*>& clips) { m_clips = clips; }
+    // True: the clips replace the editor's selection; false: they are added to it.
+    bool replacesSelection() const { return m_replace; }
+    void setReplacesSelection(bool replace) { m_replace = replace; }
+    const char* typeName() const override;
+
+private:
+    QList<IMvClip*> m_clips;
+    bool m_replace = false;
 };
 
 // ---- Transitions and effects.

@@ -144,7 +144,7 @@ int MvRulerModel::frameToPixel(qint64 frame) const
 {
     const double x = double(frame - m_state.start) * double(m_state.ratio);
     // Far-away frames land far outside the view, never wrap around.
-    const double limit = double(std::numeric_limits<int>::max() / 2);
+    const double limit = std::floor(std::numeric_limits<int>::max() / 2.0);
     return int(std::floor(qBound(-limit, x, limit) + 0.5));
 }
 
@@ -252,16 +252,17 @@ qint64 MvRulerModel::framesPerTickFor(double pixelsPerFrame, int nominalFps)
         if (major <= previous || major % 5 != 0)
             continue;
         previous = major;
-        if (double(major / 5) * pixelsPerFrame >= kMinTickSpacing)
-            return major / 5;
+        const qint64 tick = major / 5;
+        if (double(tick) * pixelsPerFrame >= kMinTickSpacing)
+            return tick;
     }
     // Beyond ten hours: 20, 50, 100, 200, 500 hours and so on.
     qint64 decade = 10;
     while (true) {
         for (qint64 step : { 2, 5, 10 }) {
-            const qint64 major = decade * step * 3600 * nominalFps;
-            if (double(major / 5) * pixelsPerFrame >= kMinTickSpacing || decade > (qint64(1) << 32))
-                return major / 5;
+            const qint64 tick = decade * step * 3600 * nominalFps / 5;
+            if (double(tick) * pixelsPerFrame >= kMinTickSpacing || decade > (qint64(1) << 32))
+                return tick;
         }
         decade *= 10;
     }

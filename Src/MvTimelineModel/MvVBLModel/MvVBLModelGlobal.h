@@ -60,6 +60,19 @@ constexpr MvPropertyType PropertyType_Text = 0x10004;
 constexpr MvPropertyType PropertyType_Picture = 0x10008;
 constexpr MvPropertyType PropertyType_Sticker = 0x1000080;
 
+// Shelf of the media library a resource is filed on (library resources: Find similar).
+using MvMediaCategoryType = int;
+constexpr MvMediaCategoryType MediaCategory_None = 0;
+constexpr MvMediaCategoryType MediaCategory_Video = 1;
+constexpr MvMediaCategoryType MediaCategory_Image = 2;
+constexpr MvMediaCategoryType MediaCategory_Music = 3;
+constexpr MvMediaCategoryType MediaCategory_SoundEffect = 4;
+constexpr MvMediaCategoryType MediaCategory_Text = 5;
+constexpr MvMediaCategoryType MediaCategory_Sticker = 6;
+constexpr MvMediaCategoryType MediaCategory_Effect = 7;
+constexpr MvMediaCategoryType MediaCategory_Filter = 8;
+constexpr MvMediaCategoryType MediaCategory_Transition = 9;
+
 // Groups of keyframed properties.
 constexpr int PropertyGroup_Transform = 4096;
 constexpr int PropertyGroup_AudioVolume = 4110;
@@ -185,6 +198,9 @@ constexpr int AddMediaResponse = 3019; // MvTimelineAddMediaResponseMessage
 constexpr int ScrollToTrack = 3020; // MvTimelineScrollToTrackMessage
 // Transitions and effects.
 constexpr int AudioEffectOverride = 3030; // MvAudioEffectOverrideMessage: answer true to replace the clip's audio effect
+// Library resources and composed texts.
+constexpr int MediaLibraryFindSimilar = 9061;    // MvMediaLibraryFindSimilarMessage
+constexpr int MediaEditorSelectClip = 9062;      // MvMediaEditorSelectClipMessage
 }
 
 } // namespace MVVBLMODEL

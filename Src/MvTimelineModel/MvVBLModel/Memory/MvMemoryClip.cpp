@@ -13,9 +13,10 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
-        && content == other.content && textColor == other.textColor && backgroundColor == other.backgroundColor
-        && effects == other.effects && userData == other.userData && handleBefore == other.handleBefore
-        && handleAfter == other.handleAfter;
+        && content == other.content && resource == other.resource && container == other.container
+        && children == other.children && secondary == other.secondary && textColor == other.textColor
+        && backgroundColor == other.backgroundColor && effects == other.effects && userData == other.userData
+        && handleBefore == other.handleBefore && handleAfter == other.handleAfter;
 }
 
 // ---- transitions
@@ -24,6 +25,7 @@ MvMemoryTransition::MvMemoryTransition(MvMemoryTimeline* timeline, int identifie
     : MvMemoryValued<State>(timeline->undoRecorder(), state)
     , m_identifier(identifier)
     , m_timeline(timeline)
+    , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
     valueChanged();
 }
@@ -184,6 +186,7 @@ MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& 
     , m_freezeFrames(new MvMemoryFreezeFrameList(this))
     , m_nodes(new MvMemorySmartKeyingNodes(this))
     , m_effects(new MvMemoryEffectContainer(this, false))
+    , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
     valueChanged();
 }
@@ -202,14 +205,15 @@ MvClipType MvMemoryClip::type() const
     return state().type;
 }
 
+// A layer of a composed text shows for as long as its item.
 qint64 MvMemoryClip::start() const
 {
-    return state().start;
+    return state().container ? state().container->start() : state().start;
 }
 
 qint64 MvMemoryClip::end() const
 {
-    return state().end;
+    return state().container ? state().container->end() : state().end;
 }
 
 QString MvMemoryClip::name() const
@@ -219,12 +223,12 @@ QString MvMemoryClip::name() const
 
 qint64 MvMemoryClip::position() const
 {
-    return state().start;
+    return start();
 }
 
 qint64 MvMemoryClip::frameCount() const
 {
-    return state().end - state().start + 1;
+    return end() - start() + 1;
 }
 
 bool MvMemoryClip::isEnabled() const

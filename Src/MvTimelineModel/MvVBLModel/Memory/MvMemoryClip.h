@@ -4,14 +4,18 @@
 
 #include "IMvAbstractClip.h"
 #include "IMvClipItems.h"
+#include "IMvTimelineClip.h"
 #include "MvMemoryEffects.h"
 #include "MvMemoryMarker.h"
+#include "MvMemoryResource.h"
 #include "MvMemoryUndoable.h"
 
 #include <QAtomicInt>
 #include <QColor>
 #include <QImage>
 #include <QMap>
+
+#include <memory>
 
 class MvMemoryTimeline;
 class MvMemoryTrack;
@@ -28,11 +32,12 @@ struct MvMemoryTransitionState
     QString name;
     bool attached = true;
     bool audio = false; // blends the sound of the clips, not their pictures
+    MvMemoryResource resource; // library resources (MvMemoryResource.cpp)
 
     bool operator==(const MvMemoryTransitionState& other) const
     {
         return owner == other.owner && placement == other.placement && length == other.length && name == other.name
-            && attached == other.attached && audio == other.audio;
+            && attached == other.attached && audio == other.audio && resource == other.resource;
     }
 };
 
@@ -69,6 +74,10 @@ public:
     // A clip of this timeline takes the transition for the first time.
     void joinTimeline(MvMemoryTimeline* timeline);
     bool isAudio() const { return state().audio; }
+    IMvResourceInfo* resourceInfo() const override;
+
+    // Library resources (MvMemoryResource.cpp): an undoable edit.
+    void setResource(const MvMemoryResource& resource);
 
     qint64 length() const { return state().length; }
     MvMemoryClip* owner() const { return state().owner; }
@@ -89,6 +98,7 @@ private:
     QImage m_thumbnail;
     MVVBLMODEL::MvRational m_frameRate;
     qint64 m_ownLengthMs = 0; // 0: the length is in frames already
+    std::unique_ptr<MvMemoryResourceInfo> m_resourceInfo;
 };
 
 // A clip's transitions: the list the presenters read, and the ends where transitions made from
@@ -171,6 +181,13 @@ struct MvMemoryClipState
     QMap<int, QString> userData;
     qint64 handleBefore = 0;
     qint64 handleAfter = 0;
+    // Library resources (MvMemoryResource.cpp).
+    MvMemoryResource resource;
+    // Composed texts (MvMemoryTextContainer.cpp): the item a layer belongs to, an item's layers
+    // bottom first, and whether a layer is secondary.
+    MvMemoryClip* container = nullptr;
+    QList<MvMemoryClip*> children;
+    bool secondary = false;
 
     bool operator==(const MvMemoryClipState& other) const;
     bool operator!=(const MvMemoryClipState& other) const { return !(*this == other); }
@@ -180,7 +197,7 @@ struct MvMemoryClipState
 // marker list, an undoable object of its own); the clip object itself lives as long as its
 // timeline (a removed clip is detached: its track is null). Its track keeps it in its lookup by
 // start.
-class MVMEMORY_EXPORT MvMemoryClip : public IMvClip, public MvMemoryValued<MvMemoryClipState>
+class MVMEMORY_EXPORT MvMemoryClip : public IMvTimelineClip, public MvMemoryValued<MvMemoryClipState>
 {
 public:
     using State = MvMemoryClipState;
@@ -231,6 +248,17 @@ public:
     static bool hasSourceLength(MVVBLMODEL::MvClipType type);
     // A set-up hook: the unused media before and after the clip, an undoable edit.
     void setHandles(qint64 before, qint64 after);
+    IMvResourceInfo* resourceInfo() const override;
+    bool isSecondary() const override;
+    // IMvTimelineClip
+    QList<IMvClip*> childClips() const override;
+
+    // Library resources (MvMemoryResource.cpp): an undoable edit.
+    void setResource(const MvMemoryResource& resource);
+    // Composed texts (MvMemoryTextContainer.cpp): the item this layer belongs to (null for a clip
+    // on a track) and this item's layers.
+    MvMemoryClip* container() const { return state().container; }
+    QList<MvMemoryClip*> children() const { return state().children; }
 
     // Set-up and test hooks; each is an undoable edit.
     void setName(const QString& name);
@@ -284,4 +312,5 @@ private:
     MvMemoryTrack* m_indexedTrack = nullptr;
     qint64 m_indexedStart = 0;
     QList<MvMemoryTransition*> m_attached; // attached transitions, in creation order
+    std::unique_ptr<MvMemoryResourceInfo> m_resourceInfo;
 };

@@ -110,8 +110,13 @@ MvMemoryTimelinePrivate::~MvMemoryTimelinePrivate()
 MvMemoryClip* MvMemoryTimelinePrivate::makeClip(const MvMemoryClip::State& state)
 {
     Q_Q(MvMemoryTimeline);
-    auto* clip = new MvMemoryClip(q, allClips.size(), state);
+    MvMemoryClip::State own = state;
+    own.children.clear();
+    auto* clip = new MvMemoryClip(q, allClips.size(), own);
     allClips.append(clip);
+    // A copy of a composed text gets layers of its own.
+    if (!state.children.isEmpty())
+        copyChildren(clip, state.children);
     return clip;
 }
 
@@ -570,7 +575,7 @@ MvMemoryThreadGate* MvMemoryTimeline::threadGate() const
 void MvMemoryTimeline::addChangeListener(std::function<void()> listener)
 {
     Q_D(MvMemoryTimeline);
-    d->changeListeners.append(std::move(listener));
+    d->changeListeners.append(listener);
 }
 
 void MvMemoryTimeline::setJournal(MvCallJournal* journal)

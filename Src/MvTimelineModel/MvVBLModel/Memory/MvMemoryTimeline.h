@@ -104,6 +104,10 @@ public:
     MvMemoryTrack* addTrack(MVVBLMODEL::MvTrackType type);
     MvMemoryClip* addClip(int trackIndex, MVVBLMODEL::MvClipType type, qint64 start, qint64 end, const QString& name);
     MvMemoryTransition* addTransition(MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name);
+    // Composed texts (MvMemoryTextContainer.cpp): a layer of a text item on a track; null when the
+    // item composes no layers or the kind is no layer kind.
+    MvMemoryClip* addChildClip(
+        MvMemoryClip* container, MVVBLMODEL::MvClipType type, const QString& name, bool secondary);
     // A change of the project's frame rate (an undo step); positions stay in frames.
     void setFrameRate(int numerator, int denominator);
     // Transitions and effects (MvMemoryTransitionItems.cpp): a transition made from a media item that

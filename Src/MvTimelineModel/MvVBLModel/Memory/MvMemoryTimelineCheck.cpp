@@ -4,7 +4,9 @@
 #include "IMvTimelineRuler.h"
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
+#include "MvMemoryResource.h"
 #include "MvMemorySelection.h"
+#include "MvMemoryTextContainer.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
@@ -204,6 +206,7 @@ QString MvMemoryTimeline::checkInvariants() const
     d->checkGroupsAndTransitions(problems);
     d->checkTransitionsAndEffects(problems);
     d->checkItems(problems);
+    d->checkChildren(problems);
     return problems.join(QLatin1Char('\n'));
 }
 
@@ -231,12 +234,18 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     if (state.textColor.isValid() || state.backgroundColor.isValid())
         text += QLatin1String("\n    colours: text ") % colourName(state.textColor) % QLatin1String(" background ")
             % colourName(state.backgroundColor);
+    if (state.resource.isLibraryResource())
+        text += QLatin1String("\n    ") % MvMemoryResources::text(state.resource);
+    if (!state.children.isEmpty())
+        text += QLatin1String("\n    layers: ") % MvMemoryTextContainer::text(clip);
     const QList<MvMemoryTransition*> transitions = clip->liveTransitions();
     for (const MvMemoryTransition* transition : transitions) {
         text += QLatin1String("\n    transition ") % num(transition->identifier()) % QLatin1String(" at ")
             % num(transition->placement()) % QLatin1Char(' ') % num(transition->start()) % QLatin1String("..")
             % num(transition->end()) % QLatin1String(" \"") % transition->name() % QLatin1Char('"')
             % (transition->isAudio() ? QLatin1String(" audio") : QLatin1String());
+        if (transition->state().resource.isLibraryResource())
+            text += QLatin1Char(' ') % MvMemoryResources::text(transition->state().resource);
     }
     text += transitionsAndEffectsText(clip);
     return text;

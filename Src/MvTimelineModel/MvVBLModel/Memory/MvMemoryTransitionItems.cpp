@@ -128,6 +128,7 @@ MvMemoryTransition::MvMemoryTransition(const State& state, qint64 ownLengthMs, c
     , m_thumbnail(thumbnail)
     , m_frameRate(kDefaultRate)
     , m_ownLengthMs(ownLengthMs)
+    , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
 }
 

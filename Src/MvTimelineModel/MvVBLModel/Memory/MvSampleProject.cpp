@@ -6,6 +6,7 @@
 #include "MvMemoryEditService.h"
 #include "MvMemoryEffects.h"
 #include "MvMemoryMediaLibrary.h"
+#include "MvMemoryResource.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryTransitionItems.h"
 #include "MvMemoryUndoService.h"
@@ -27,6 +28,55 @@ QList<MvEffectPropertyBaseInfo> transformKeys()
 QList<MvEffectPropertyBaseInfo> volumeKeys()
 {
     return { MvEffectPropertyBaseInfo { PropertyGroup_AudioVolume, QString(), false, -1, 22 } };
+}
+
+MvMemoryClip* clipNamed(const MvMemoryTimeline& timeline, const QString& name)
+{
+    const QList<MvMemoryClip*> clips = timeline.liveClips();
+    for (MvMemoryClip* clip : clips) {
+        if (clip->name() == name)
+            return clip;
+    }
+    return nullptr;
+}
+
+// Stock footage and music from the online libraries (their similarity search knows them), a
+// sticker, a sound and a transition shipped with the editor (it does not).
+void addLibraryResources(MvMemoryTimeline& timeline)
+{
+    const int stockLibrary = 1;
+    const int musicLibrary = 2;
+    const struct
+    {
+        const char* clip;
+        MvMemoryResource resource;
+    } resources[] = {
+        { "Fishing boats",
+            { 20417, stockLibrary, QStringLiteral("stock-video-20417"), QStringLiteral("Fishing boats at sea") } },
+        { "Theme", { 3310, musicLibrary, QStringLiteral("music-3310"), QStringLiteral("Sea breeze") } },
+        { "Seagull", { 118, MvMemoryResource::BuiltIn, QStringLiteral("sticker-118"), QStringLiteral("Seagull") } },
+        { "Waves",
+            { 57, MvMemoryResource::BuiltIn, QStringLiteral("sound-57"), QStringLiteral("Waves on the shore") } },
+    };
+    for (const auto& entry : resources) {
+        if (MvMemoryClip* clip = clipNamed(timeline, QLatin1String(entry.clip)))
+            clip->setResource(entry.resource);
+    }
+    if (MvMemoryClip* street = clipNamed(timeline, QStringLiteral("Market street"))) {
+        for (MvMemoryTransition* transition : street->liveTransitions())
+            transition->setResource(
+                { 5, MvMemoryResource::BuiltIn, QStringLiteral("transition-5"), QStringLiteral("Cross dissolve") });
+    }
+}
+
+// The lower third is a composed text: two names, the line under them and a decoration.
+void composeLowerThird(MvMemoryTimeline& timeline)
+{
+    MvMemoryClip* caption = clipNamed(timeline, QStringLiteral("Lower third"));
+    timeline.addChildClip(caption, ClipType_Sticker, QStringLiteral("Underline"), false);
+    timeline.addChildClip(caption, ClipType_Text, QStringLiteral("Anna Berg"), false);
+    timeline.addChildClip(caption, ClipType_Text, QStringLiteral("Jon Berg"), false);
+    timeline.addChildClip(caption, ClipType_Text, QStringLiteral("Harbour masters since 1998"), true);
 }
 }
 
@@ -75,6 +125,8 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
     screen->setSmartKeyingNodeCount(3);
     caption->setMotionTrackingEnabled(true);
     addHandlesAndEffects(timeline);
+    addLibraryResources(timeline);
+    composeLowerThird(timeline);
 
     timeline.undoService()->clear();
     timeline.playhead()->setCurrentFrame(0);
