@@ -9,10 +9,9 @@ class MvMemoryTimeline;
 
 // The demo's built-in project: three picture rows and two audio rows, about two minutes at 30
 // frames per second, with clips of every common kind, a transition, a linked group, markers,
-// keyframes, a freeze frame, media handles and an effect. It leaves the undo history empty and the playhead at frame 0.
 // keyframes and a freeze frame, clips made from library resources (some of them known to the
-// library's similarity search) and a composed text with primary and secondary layers. It leaves
-// the undo history empty and the playhead at frame 0.
+// library's similarity search), a composed text with primary and secondary layers, media handles
+// (some clips have none) and an effect. It leaves the undo history empty and the playhead at frame 0.
 class MVMEMORY_EXPORT MvSampleProject
 {
 public:
