@@ -35,6 +35,7 @@ QString MvDemoJournalWords::message(int id)
         { MessageId::ShowPropertyPanel, QT_TR_NOOP("show the property panel") },
         { MessageId::MediaLibraryFindSimilar, QT_TR_NOOP("find similar resources in the media library") },
         { MessageId::MediaEditorSelectClip, QT_TR_NOOP("select clips in the media editor") },
+        { MessageId::AudioEffectOverride, QT_TR_NOOP("ask whether to replace an audio effect") },
     };
     const char* text = words.value(id);
     return text ? tr(text) : tr("message %1").arg(id);

@@ -78,6 +78,11 @@ QString MvDemoRefusals::reason(const QString& command) const
         { QStringLiteral("add-animation"), [](const MvDemoRefusals& r) { return r.panelClipReason(); } },
         { QStringLiteral("audio-keyframe-panel"),
             [](const MvDemoRefusals& r) { return r.audioKeyFramePanelReason(); } },
+        { QStringLiteral("copy-effects"), [](const MvDemoRefusals& r) { return r.copyEffectsReason(); } },
+        { QStringLiteral("paste-effects"), [](const MvDemoRefusals& r) { return r.pasteEffectsReason(); } },
+        { QStringLiteral("delete-effects"), [](const MvDemoRefusals& r) { return r.deleteEffectsReason(); } },
+        { QStringLiteral("apply-effect"), [](const MvDemoRefusals& r) { return r.selectionForEffectsReason(); } },
+        { QStringLiteral("random-transitions"), [](const MvDemoRefusals& r) { return r.selectionForEffectsReason(); } },
     };
     const Check check = checks.value(command);
     return m_timeline && check ? check(*this) : QString();

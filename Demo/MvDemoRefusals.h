@@ -47,6 +47,11 @@ private:
     QString panelClipReason() const;
     QString colourReason() const;
     QString audioKeyFramePanelReason() const;
+    // Transitions and effects (MvDemoEffectActions.cpp).
+    QString copyEffectsReason() const;
+    QString pasteEffectsReason() const;
+    QString deleteEffectsReason() const;
+    QString selectionForEffectsReason() const;
 
     IMvTimeline* m_timeline;
     MvTimelinePresenter* m_presenter;

@@ -34,6 +34,10 @@ private:
     QList<Step> navigationSteps();
     // The property panels and the media library (MvDemoPanelActions.cpp).
     QList<Step> panelSteps();
+    // Transitions and effects (MvDemoEffectActions.cpp): a drop of a panel's item onto a clip, at
+    // a fraction of the clip's width.
+    QList<Step> effectSteps();
+    void dropOnClip(const QString& mimeType, const QString& itemName, const QString& clipName, double fraction);
     void pickFirstKeyFrame(bool audio);
     void trigger(const QString& actionName);
     IMvClip* clipNamed(const QString& name) const;

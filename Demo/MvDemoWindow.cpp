@@ -7,6 +7,8 @@
 #include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
+#include "Memory/MvMemoryMediaLibrary.h"
+#include "Memory/MvMemoryProjectManager.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvSampleProject.h"
 #include "MvDemoJournal.h"
@@ -66,6 +68,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     buildLayout();
     buildJournal();
     buildPanels();
+    buildEffectPanels();
     buildMenus();
     connectViews();
     qApp->installEventFilter(new MvDemoMarkerDialogStyle(this));
@@ -361,6 +364,7 @@ void MvDemoWindow::refreshActions()
     setWindowModified(undo->canUndo());
     refreshEditActions();
     refreshPanelActions();
+    refreshEffectActions();
     refreshStatus();
 }
 

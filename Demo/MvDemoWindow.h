@@ -14,7 +14,15 @@ class QLabel;
 class QMenu;
 class QPlainTextEdit;
 class MvMemoryTimeline;
+class MvDemoEffectDrops;
+class MvDemoEffectsDock;
 class MvDemoLibraryDock;
+class MvDemoTransitionsDock;
+class MvMemoryMediaItem;
+class MvMemoryMediaLibrary;
+class MvMemoryProjectManager;
+class MvMessage;
+class IMvClip;
 class MvDemoLogRouter;
 class MvDemoMarkerPresenter;
 class MvDemoPlayer;
@@ -62,6 +70,12 @@ public:
     // The host's panels the presenter asks for (MvDemoPanelActions.cpp).
     MvDemoPropertiesDock* propertiesDock() const { return m_propertiesDock; }
     MvDemoLibraryDock* libraryDock() const { return m_libraryDock; }
+    // Transitions and effects (MvDemoEffectActions.cpp): the project's media library, its two
+    // panels, and the drops of their items onto the tracks.
+    MvMemoryMediaLibrary* library() const { return m_library.data(); }
+    MvDemoTransitionsDock* transitionsDock() const { return m_transitionsDock; }
+    MvDemoEffectsDock* effectsDock() const { return m_effectsDock; }
+    MvDemoEffectDrops* effectDrops() const { return m_effectDrops; }
 
     // Tells the user why a command did nothing. One place, so that the notice can change its look.
     void tellRefusal(const QString& text);
@@ -89,6 +103,12 @@ private:
     void buildPanels();
     void buildPanelMenu();
     void refreshPanelActions();
+    // Transitions and effects (MvDemoEffectActions.cpp).
+    void buildEffectPanels();
+    void buildEffectMenu();
+    void refreshEffectActions();
+    void dropTransition(IMvClip* clip, int transitionType, MvMemoryMediaItem* item);
+    bool describeEffectMessage(MvMessage* message, QString* detail);
     void refreshEditActions();
     QAction* addCommand(
         QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, Command command);
@@ -105,6 +125,9 @@ private:
     void keepTracksInSight();
 
     QScopedPointer<MvMemoryTimeline> m_timeline;
+    // After the timeline: it goes first (one of its items shows the timeline).
+    QScopedPointer<MvMemoryMediaLibrary> m_library;
+    QScopedPointer<MvMemoryProjectManager> m_projects;
     MvDemoLogRouter* m_logRouter = nullptr;
     MvDemoPlayer* m_player = nullptr;
     MvDemoScene* m_scene = nullptr;
@@ -120,6 +143,9 @@ private:
     QDockWidget* m_journalDock = nullptr;
     MvDemoPropertiesDock* m_propertiesDock = nullptr;
     MvDemoLibraryDock* m_libraryDock = nullptr;
+    MvDemoTransitionsDock* m_transitionsDock = nullptr;
+    MvDemoEffectsDock* m_effectsDock = nullptr;
+    MvDemoEffectDrops* m_effectDrops = nullptr;
     QLabel* m_status = nullptr;
     QHash<QString, QAction*> m_actions;
     QStringList m_journal;

@@ -58,7 +58,7 @@ private:
 };
 
 // The effects a clip carries, part of its value: copied with the clip, restored by undo.
-struct MvMemoryClipEffects
+struct MVMEMORY_EXPORT MvMemoryClipEffects
 {
     QList<MvMemoryEffectRef> video; // shown one over the other, the first applied first
     MvMemoryEffectRef audio; // a clip plays through one audio effect at most
