@@ -5,8 +5,12 @@
 void registerRulerBenchmarks();
 void registerLibraryLoopBenchmarks();
 void registerModelBenchmarks();
+void registerStripBenchmarks();
+void registerMarkerBenchmarks();
+void registerPlayheadBenchmarks();
 
 // mvtimeline-bench [group]: runs every benchmark group, or those whose name contains the argument.
+// Exits non-zero when a figure's ratio to its floor is over its goal.
 int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -15,6 +19,9 @@ int main(int argc, char** argv)
     registerRulerBenchmarks();
     registerLibraryLoopBenchmarks();
     registerModelBenchmarks();
+    registerStripBenchmarks();
+    registerMarkerBenchmarks();
+    registerPlayheadBenchmarks();
     const QStringList arguments = app.arguments();
     return MvBench::runAll(arguments.size() > 1 ? arguments.at(1) : QString());
 }

@@ -84,6 +84,7 @@ void MvDemoWindow::buildMenus()
     buildViewMenu();
     buildTrackActions();
     buildPanelMenu();
+    buildMediaMenu();
     buildEffectMenu();
 
     QMenu* playback = menuBar()->addMenu(tr("&Playback"));

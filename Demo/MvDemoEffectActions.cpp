@@ -45,11 +45,6 @@ MvDemoWindow::Command leavesStep(IMvUndoRedoService* undo, std::function<void()>
     };
 }
 
-bool fromTheShelves(const IMvAbstractMediaItem* item)
-{
-    return dynamic_cast<const MvMemoryTransitionMediaItem*>(item) || dynamic_cast<const MvMemoryEffectMediaItem*>(item);
-}
-
 QStringList namesOf(const QList<IMvAbstractMediaItem*>& items)
 {
     QStringList names;
@@ -61,14 +56,12 @@ QStringList namesOf(const QList<IMvAbstractMediaItem*>& items)
 
 void MvDemoWindow::buildEffectPanels()
 {
-    m_library.reset(new MvMemoryMediaLibrary);
-    MvSampleProject::buildMediaLibrary(*m_library, *m_timeline);
     // The once-per-project notices are remembered with the project.
     m_projects.reset(new MvMemoryProjectManager);
     m_projects->openProject(m_timeline->projectId());
 
-    m_transitionsDock = new MvDemoTransitionsDock(m_library.data(), this);
-    m_effectsDock = new MvDemoEffectsDock(m_library.data(), this);
+    m_transitionsDock = new MvDemoTransitionsDock(m_mediaLibrary.data(), this);
+    m_effectsDock = new MvDemoEffectsDock(m_mediaLibrary.data(), this);
     // Tabs beside the journal and the other panels: the tracks keep their width.
     tabifyDockWidget(m_libraryDock, m_transitionsDock);
     tabifyDockWidget(m_transitionsDock, m_effectsDock);
@@ -80,7 +73,7 @@ void MvDemoWindow::buildEffectPanels()
     connect(m_effectsDock, &MvDemoEffectsDock::applyRequested, this,
         [this] { m_actions.value(QStringLiteral("apply-effect"))->trigger(); });
 
-    m_effectDrops = new MvDemoEffectDrops(trackArea(), m_library.data());
+    m_effectDrops = new MvDemoEffectDrops(trackArea(), m_mediaLibrary.data());
     m_effectDrops->setLengthSource([this] { return m_transitionsDock->length(); });
     connect(m_effectDrops, &MvDemoEffectDrops::transitionDropped, this, &MvDemoWindow::dropTransition);
     connect(m_effectDrops, &MvDemoEffectDrops::effectDropped, this, [this](IMvClip* clip, MvMemoryMediaItem* item) {
@@ -102,18 +95,10 @@ void MvDemoWindow::dropTransition(IMvClip* clip, int transitionType, MvMemoryMed
     viewsChanged();
 }
 
-// The shelves' own downloads, and what the presenter reports of transitions and effects.
+// What the presenter reports of transitions and effects (the Media panel's scene downloads their
+// items as it does its own).
 bool MvDemoWindow::describeEffectMessage(MvMessage* message, QString* detail)
 {
-    if (auto* download = dynamic_cast<MvDownloadMediaItemMessage*>(message)) {
-        const QList<IMvAbstractMediaItem*> items = download->mediaItems();
-        if (items.isEmpty() || !std::all_of(items.cbegin(), items.cend(), fromTheShelves))
-            return false;
-        for (IMvAbstractMediaItem* item : items)
-            static_cast<MvMemoryMediaItem*>(item)->setDownloaded(true);
-        *detail = tr("downloaded %1").arg(namesOf(items).join(QLatin1String(", ")));
-        return true;
-    }
     auto* response = dynamic_cast<MvTimelineAddMediaResponseMessage*>(message);
     if (!response || (response->value() != 1 && response->value() != 2))
         return false;

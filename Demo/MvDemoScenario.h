@@ -34,6 +34,10 @@ private:
     QList<Step> navigationSteps();
     // The property panels and the media library (MvDemoPanelActions.cpp).
     QList<Step> panelSteps();
+    // Adding the sample media (MvDemoMediaActions.cpp).
+    QList<Step> mediaSteps();
+    void doubleClickMedia(const QString& name);
+    void dropMedia(const QString& name, qint64 frame, int trackIndex);
     // Transitions and effects (MvDemoEffectActions.cpp): a drop of a panel's item onto a clip, at
     // a fraction of the clip's width.
     QList<Step> effectSteps();

@@ -68,6 +68,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     buildLayout();
     buildJournal();
     buildPanels();
+    buildMediaPanel(interactive);
     buildEffectPanels();
     buildMenus();
     connectViews();

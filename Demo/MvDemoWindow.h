@@ -13,16 +13,20 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QPlainTextEdit;
+class IMvClip;
+class IMvTrack;
+class MvMemoryMediaItem;
+class MvMemoryMediaLibrary;
 class MvMemoryTimeline;
 class MvDemoEffectDrops;
 class MvDemoEffectsDock;
+class MvDemoMediaDrop;
+class MvDemoMediaPanel;
+class MvDemoMediaScene;
 class MvDemoLibraryDock;
 class MvDemoTransitionsDock;
-class MvMemoryMediaItem;
-class MvMemoryMediaLibrary;
 class MvMemoryProjectManager;
 class MvMessage;
-class IMvClip;
 class MvDemoLogRouter;
 class MvDemoMarkerPresenter;
 class MvDemoPlayer;
@@ -70,9 +74,16 @@ public:
     // The host's panels the presenter asks for (MvDemoPanelActions.cpp).
     MvDemoPropertiesDock* propertiesDock() const { return m_propertiesDock; }
     MvDemoLibraryDock* libraryDock() const { return m_libraryDock; }
-    // Transitions and effects (MvDemoEffectActions.cpp): the project's media library, its two
-    // panels, and the drops of their items onto the tracks.
-    MvMemoryMediaLibrary* library() const { return m_library.data(); }
+    // The project's media and what adding it asks of the host (MvDemoMediaActions.cpp).
+    MvMemoryMediaLibrary* mediaLibrary() const { return m_mediaLibrary.data(); }
+    MvDemoMediaPanel* mediaPanel() const { return m_mediaPanel; }
+    MvDemoMediaScene* mediaScene() const { return m_mediaScene; }
+    MvDemoMediaDrop* mediaDrop() const { return m_mediaDrop; }
+    // Adds the item at a frame, on a row when one is given (-1: the timeline chooses); false
+    // when nothing was added, and the user is told why.
+    bool addMedia(MvMemoryMediaItem* item, qint64 frame, int trackIndex = -1);
+    // Transitions and effects (MvDemoEffectActions.cpp): two more panels over the project's media
+    // library, and the drops of their items onto the tracks.
     MvDemoTransitionsDock* transitionsDock() const { return m_transitionsDock; }
     MvDemoEffectsDock* effectsDock() const { return m_effectsDock; }
     MvDemoEffectDrops* effectDrops() const { return m_effectDrops; }
@@ -103,6 +114,13 @@ private:
     void buildPanels();
     void buildPanelMenu();
     void refreshPanelActions();
+    // The media panel, its drop target on the tracks and the media questions of the scene
+    // (MvDemoMediaActions.cpp).
+    void buildMediaPanel(bool interactive);
+    void buildMediaMenu();
+    void scrollToClips(const QList<IMvClip*>& clips);
+    void fitNewRows();
+    QString mediaRefusal(MvMemoryMediaItem* item) const;
     // Transitions and effects (MvDemoEffectActions.cpp).
     void buildEffectPanels();
     void buildEffectMenu();
@@ -125,8 +143,7 @@ private:
     void keepTracksInSight();
 
     QScopedPointer<MvMemoryTimeline> m_timeline;
-    // After the timeline: it goes first (one of its items shows the timeline).
-    QScopedPointer<MvMemoryMediaLibrary> m_library;
+    // The projects the once-per-project notices are remembered with.
     QScopedPointer<MvMemoryProjectManager> m_projects;
     MvDemoLogRouter* m_logRouter = nullptr;
     MvDemoPlayer* m_player = nullptr;
@@ -143,6 +160,11 @@ private:
     QDockWidget* m_journalDock = nullptr;
     MvDemoPropertiesDock* m_propertiesDock = nullptr;
     MvDemoLibraryDock* m_libraryDock = nullptr;
+    QScopedPointer<MvMemoryMediaLibrary> m_mediaLibrary;
+    MvDemoMediaPanel* m_mediaPanel = nullptr;
+    MvDemoMediaScene* m_mediaScene = nullptr;
+    MvDemoMediaDrop* m_mediaDrop = nullptr;
+    QList<IMvTrack*> m_rowsBeforeInsert; // while media is added: the rows it may add to
     MvDemoTransitionsDock* m_transitionsDock = nullptr;
     MvDemoEffectsDock* m_effectsDock = nullptr;
     MvDemoEffectDrops* m_effectDrops = nullptr;

@@ -8,6 +8,7 @@
 #include "MvDemoContextMenus.h"
 #include "MvDemoEffectDocks.h"
 #include "MvDemoEffectDrops.h"
+#include "MvDemoMediaPanel.h"
 #include "MvDemoTrackArea.h"
 #include "MvDemoWindow.h"
 #include "MvToast.h"
@@ -145,6 +146,9 @@ void tst_MvDemoEffects::panelsPictureTheirItems()
     QCOMPARE(effects->count(), 5);
     QCOMPARE(effects->item(3)->text(), QStringLiteral("Echo (sound)"));
     QVERIFY(effects->item(0)->icon().pixmap(96, 54).toImage() != effects->item(1)->icon().pixmap(96, 54).toImage());
+    // They are on these shelves only: the Media panel keeps to what becomes clips.
+    for (const QString& name : { QStringLiteral("Dissolve"), QStringLiteral("Sepia"), QStringLiteral("Echo") })
+        QCOMPARE(demo.window.mediaPanel()->rowOf(name), -1);
 }
 
 void tst_MvDemoEffects::dropTargetFollowsThePointer_data()
@@ -205,8 +209,9 @@ void tst_MvDemoEffects::transitionDroppedOverAnotherReplacesIt()
         MvDemoTransitionsDock::MimeType, QStringLiteral("Slide"), demo.on(QStringLiteral("Market street"), 0.01)));
     // The slide had to be downloaded first; the scene did that for the panel.
     QCOMPARE(demo.transitionsOf(QStringLiteral("Market street")), QStringLiteral("Slide at 1"));
-    QVERIFY(!demo.window.library()->find(QStringLiteral("Slide"))->needDownload());
+    QVERIFY(!demo.window.mediaLibrary()->find(QStringLiteral("Slide"))->needDownload());
     QCOMPARE(demo.undoCount(), 1);
+    QVERIFY(demo.window.journalLines().contains(QStringLiteral("scene: media added: 1 transition(s) placed")));
 }
 
 void tst_MvDemoEffects::effectDroppedOnAClip()
@@ -215,8 +220,8 @@ void tst_MvDemoEffects::effectDroppedOnAClip()
     QVERIFY(demo.drop(MvDemoEffectsDock::MimeType, QStringLiteral("Vignette"), demo.on(QStringLiteral("Logo"), 0.5)));
     QCOMPARE(demo.effectsOf(QStringLiteral("Logo")), QStringLiteral("video \"Vignette\"; audio -"));
     QCOMPARE(demo.window.timeline()->undoRedoService()->undoName(), QStringLiteral("add effect medias"));
-    QVERIFY(demo.window.journalLines().contains(
-        QStringLiteral("scene: message 3019: effect \u201cVignette\u201d applied")));
+    QVERIFY(
+        demo.window.journalLines().contains(QStringLiteral("scene: media added: effect \u201cVignette\u201d applied")));
     // On empty space the drop is refused and nothing happens.
     const int steps = demo.undoCount();
     QVERIFY(!demo.drop(MvDemoEffectsDock::MimeType, QStringLiteral("Blur"), QPoint(2, demo.area()->height() - 2)));

@@ -30,6 +30,31 @@ public:
     QList<MarkerItem> markers;
 };
 
+// Counts how often the strip asks for each kind of image.
+class CountingPresenter : public ListPresenter
+{
+public:
+    using ListPresenter::ListPresenter;
+    QImage normalMarkerImage(int colorIndex) override
+    {
+        ++normal;
+        return ListPresenter::normalMarkerImage(colorIndex);
+    }
+    QImage horverMarkerImage(int colorIndex) override
+    {
+        ++hover;
+        return ListPresenter::horverMarkerImage(colorIndex);
+    }
+    QImage pressMarkerImage(int colorIndex) override
+    {
+        ++pressed;
+        return ListPresenter::pressMarkerImage(colorIndex);
+    }
+    int normal = 0;
+    int hover = 0;
+    int pressed = 0;
+};
+
 // The host side of the widget: it owns the hover, press and floating state.
 class HostMarkerWidget : public MvMarkerWidget
 {
@@ -62,6 +87,7 @@ private Q_SLOTS:
     void markerRectangleAndOverlap();
     void listFollowsThePresenter();
     void clearWithoutPressedMarkerDoesNotRepaint();
+    void imagesAreLookedUpOncePerColour();
 };
 
 void tst_MvMarkerWidget::paintsByHoverPressAndFloating_data()
@@ -140,6 +166,25 @@ void tst_MvMarkerWidget::clearWithoutPressedMarkerDoesNotRepaint()
     Q_EMIT presenter.signalClearTimelineSelectedMarker();
     QVERIFY(!widget.m_pressVisible);
     QTRY_COMPARE(widget.paints, 1);
+}
+
+// A thousand markers in two colours: each paint asks once per colour for each kind of image.
+void tst_MvMarkerWidget::imagesAreLookedUpOncePerColour()
+{
+    QList<MvMarkerPresenter::MarkerItem> markers;
+    for (int i = 0; i < 1000; ++i)
+        markers.append({ i % 400, i % 2 });
+    CountingPresenter presenter(markers);
+    HostMarkerWidget widget(&presenter, nullptr);
+    widget.resize(400, 20);
+    widget.m_hoverIndex = 3;
+    widget.m_pressVisible = true;
+    widget.m_pressIndex = 4;
+    for (int paint = 1; paint <= 2; ++paint) {
+        QCOMPARE(mvColorsAt(&widget, { { 200, 5 } }), QStringLiteral("Y"));
+        QCOMPARE(QList<int>({ presenter.normal, presenter.hover, presenter.pressed }),
+            QList<int>({ 2 * paint, 2 * paint, 2 * paint }));
+    }
 }
 
 QTEST_MAIN(tst_MvMarkerWidget)

@@ -1,6 +1,35 @@
+#include "IMvTimelineRuler.h"
+#include "Memory/MvMemoryMarker.h"
+#include "MvEditFixture.h"
+#include "MvMarkerEditDialog.h"
+#include "MvMarkerPresenter.h"
 #include "MvTimelineRulerPresenter.h"
 
+#include <QApplication>
+#include <QTimer>
 #include <QtTest>
+
+namespace {
+// The time the marker editor shows for a timeline marker at `frame` on a timeline at the rate.
+QString timeInMarkerEditor(qint64 frame, int numerator, int denominator)
+{
+    MvEditFixture<> project;
+    project.clip(0, 0, frame + 10);
+    project.timeline.ruler()->setFrameRate(numerator, denominator);
+    project.timeline.timelineMarkerList()->addNamedMarker(
+        frame, MvMarkerPresenter::markerPalette().at(0), QStringLiteral("m"));
+    project.setPlayhead(frame);
+    QString shown;
+    QTimer::singleShot(0, [&shown]() {
+        if (auto* dialog = qobject_cast<MvMarkerEditDialog*>(QApplication::activeModalWidget())) {
+            shown = dialog->markerParam().time;
+            dialog->reject();
+        }
+    });
+    project.presenter->editMarker();
+    return shown;
+}
+}
 
 class tst_MvRulerTimecode : public QObject
 {
@@ -13,6 +42,8 @@ private Q_SLOTS:
     void floatRates();
     void rateThatCannotCountGivesNoText_data();
     void rateThatCannotCountGivesNoText();
+    void rulerAndMarkerEditorAgree_data();
+    void rulerAndMarkerEditorAgree();
 };
 
 void tst_MvRulerTimecode::rationalRates_data()
@@ -82,5 +113,37 @@ void tst_MvRulerTimecode::rateThatCannotCountGivesNoText()
         QVERIFY(MvTimelineRulerPresenter::formatTimecode(100, float(numerator)).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_MvRulerTimecode)
+void tst_MvRulerTimecode::rulerAndMarkerEditorAgree_data()
+{
+    QTest::addColumn<qint64>("frame");
+    QTest::addColumn<int>("numerator");
+    QTest::addColumn<int>("denominator");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("start") << qint64(0) << 30000 << 1001 << QStringLiteral("00:00:00:00");
+    // Counting 29.97 as 30 would show 00:09:59:12 here.
+    QTest::newRow("29.97: ten minutes") << qint64(17982) << 30000 << 1001 << QStringLiteral("00:10:00:00");
+    QTest::newRow("29.97: last frame before ten minutes")
+        << qint64(17981) << 30000 << 1001 << QStringLiteral("00:09:59:28");
+    QTest::newRow("23.976: one minute and a frame") << qint64(1440) << 24000 << 1001 << QStringLiteral("00:01:00:01");
+    QTest::newRow("23.976: one hour") << qint64(86314) << 24000 << 1001 << QStringLiteral("01:00:00:00");
+    QTest::newRow("25: last frame of a second") << qint64(24) << 25 << 1 << QStringLiteral("00:00:00:24");
+    QTest::newRow("25: one hour and a frame") << qint64(90001) << 25 << 1 << QStringLiteral("01:00:00:01");
+    QTest::newRow("60: last frame of a minute") << qint64(3599) << 60 << 1 << QStringLiteral("00:00:59:59");
+    QTest::newRow("30: a hundred hours") << qint64(10800000) << 30 << 1 << QStringLiteral("100:00:00:00");
+    QTest::newRow("30: largest frame the ruler labels")
+        << qint64(2147483647) << 30 << 1 << QStringLiteral("19884:06:28:07");
+}
+
+// The ruler labels a frame and the marker editor shows a marker's time with the same text.
+void tst_MvRulerTimecode::rulerAndMarkerEditorAgree()
+{
+    QFETCH(qint64, frame);
+    QFETCH(int, numerator);
+    QFETCH(int, denominator);
+    QFETCH(QString, text);
+    QCOMPARE(MvTimelineRulerPresenter::formatTimecode(int(frame), numerator, denominator), text);
+    QCOMPARE(timeInMarkerEditor(frame, numerator, denominator), text);
+}
+
+QTEST_MAIN(tst_MvRulerTimecode)
 #include "tst_MvRulerTimecode.moc"

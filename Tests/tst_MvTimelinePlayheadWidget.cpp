@@ -9,9 +9,14 @@
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePlayheadWidget.h"
 #include "MvTimelinePresenter.h"
+#include "MvTimelineRenderWidget.h"
+#include "MvTimelineRulerPresenter.h"
+#include "MvTimelineRulerWidget.h"
 #include "MvToolTipHelper.h"
 
 #include <QContextMenuEvent>
+#include <QPaintEvent>
+#include <QScreen>
 #include <QtTest>
 
 using namespace MVVBLMODEL;
@@ -98,16 +103,69 @@ struct Fixture
     QStringList drags; // the head's drag signals, in order
 };
 
-const QPoint kButton(100, 84);
-const QPoint kHead(100, 5);
-const QPoint kEmpty(300, 150);
-
 QImage solid(const QColor& color, const QSize& size = QSize(20, 20))
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(color);
     return image;
 }
+
+// Remembers every region it was asked to paint, in its parent's coordinates.
+template <typename Widget> class PaintRecorder : public Widget
+{
+public:
+    using Widget::Widget;
+    QList<QRegion> painted;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        painted.append(event->region().translated(this->pos()));
+        Widget::paintEvent(event);
+    }
+};
+
+// The fixture's overlay over what lies under it in a timeline: the ruler and the render strip
+// along the top, and a track header far right that the playhead never crosses here.
+struct Stack : Fixture
+{
+    MvTimelineRulerPresenter rulerPresenter { &timelinePresenter, nullptr };
+    PaintRecorder<MvTimelineRulerWidget>* ruler = new PaintRecorder<MvTimelineRulerWidget>(&rulerPresenter, &area);
+    PaintRecorder<MvTimelineRenderWidget>* strip = new PaintRecorder<MvTimelineRenderWidget>(&timelinePresenter, &area);
+    PaintRecorder<QWidget>* header = new PaintRecorder<QWidget>(&area);
+
+    Stack()
+    {
+        presenter.setPlayheadColor(Status::Normal, Qt::red);
+        presenter.addSplitButtonImage(Status::Normal, solid(Qt::green));
+        presenter.addSplitButtonImage(Status::Hover, solid(Qt::blue));
+        presenter.setSplitButtonVisible(true);
+        ruler->setGeometry(0, 0, 400, 28);
+        strip->setGeometry(0, 28, 400, 6);
+        strip->setFinishedColor(Qt::blue);
+        header->setGeometry(300, 34, 100, 166);
+        header->setAutoFillBackground(true);
+        overlay->raise();
+        ruler->show();
+        strip->show();
+        header->show();
+    }
+    // Lets the window repaint what is pending and forgets the earlier paints.
+    void settle()
+    {
+        QCoreApplication::sendPostedEvents(&area, QEvent::UpdateRequest);
+        ruler->painted.clear();
+        strip->painted.clear();
+        header->painted.clear();
+    }
+    // What the user sees: the window's backing store, as the last repaints left it.
+    QImage onScreen() const { return area.screen()->grabWindow(area.winId()).toImage(); }
+};
+
+const QPoint kButton(100, 84);
+const QPoint kHead(100, 5);
+const QPoint kEmpty(300, 150);
+
 }
 
 Q_DECLARE_METATYPE(Step)
@@ -126,6 +184,8 @@ private Q_SLOTS:
     void followModeAsksTheHostBeforeEveryMove();
     void toolTipNamesTheShortcutWhenThereIsOne();
     void paintsHeadLineAndButtonByStatus();
+    void playheadStepRepaintsWhereThePlayheadWasAndIs_data();
+    void playheadStepRepaintsWhereThePlayheadWasAndIs();
 };
 
 void tst_MvTimelinePlayheadWidget::hitTest_data()
@@ -276,6 +336,55 @@ void tst_MvTimelinePlayheadWidget::paintsHeadLineAndButtonByStatus()
     f.timeline.playhead()->setVisible(true);
     f.timeline.playhead()->setEnabled(false);
     QCOMPARE(mvColorsAt(f.overlay, { { 100, 150 } }), QStringLiteral("A"));
+}
+
+void tst_MvTimelinePlayheadWidget::playheadStepRepaintsWhereThePlayheadWasAndIs_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::newRow("playback step") << QStringLiteral("step");
+    QTest::newRow("drag of the button") << QStringLiteral("drag");
+    QTest::newRow("hover over the button") << QStringLiteral("hover");
+    QTest::newRow("playhead hidden") << QStringLiteral("hide");
+}
+
+// Only the playhead's old and new area repaint: the ruler and the strip under the line repaint
+// those columns and never as a whole, a widget under the overlay away from the playhead not at
+// all, and the screen shows no trace of the old playhead.
+void tst_MvTimelinePlayheadWidget::playheadStepRepaintsWhereThePlayheadWasAndIs()
+{
+    QFETCH(QString, change);
+    Stack f;
+    QVERIFY(QTest::qWaitForWindowExposed(&f.area));
+    f.settle();
+    QRegion moved = f.overlay->playheadArea(); // every place the playhead was or is
+    QVERIFY(!moved.isEmpty());
+    const QPoint button = f.presenter.splitButtonRect().center(); // the ruler set the view's width
+    if (change == QLatin1String("step")) {
+        for (int frame : { 101, 102, 150, 200 }) { // 0.4 px a frame
+            f.timeline.playhead()->setCurrentFrame(frame);
+            moved |= f.overlay->playheadArea();
+            QCoreApplication::sendPostedEvents(&f.area, QEvent::UpdateRequest); // a frame of playback
+        }
+    } else if (change == QLatin1String("drag")) {
+        QVERIFY(f.send({ Press, button }));
+        QVERIFY(f.send({ Move, button + QPoint(6, 20) }));
+    } else if (change == QLatin1String("hover")) {
+        QVERIFY(f.send({ Hover, button }));
+    } else {
+        f.timeline.playhead()->setVisible(false);
+    }
+    const QRegion after = f.overlay->playheadArea();
+    QCOMPARE(after.isEmpty(), change == QLatin1String("hide"));
+    moved |= after;
+    QCoreApplication::sendPostedEvents(&f.area, QEvent::UpdateRequest);
+
+    for (const QList<QRegion>& paints : { f.ruler->painted, f.strip->painted }) {
+        QVERIFY(!paints.isEmpty()); // the line crosses both
+        for (const QRegion& region : paints)
+            QVERIFY2((region - moved).isEmpty(), qPrintable(QStringLiteral("painted outside the playhead")));
+    }
+    QCOMPARE(f.header->painted.size(), 0);
+    QCOMPARE(f.onScreen(), f.area.grab().toImage());
 }
 
 QTEST_MAIN(tst_MvTimelinePlayheadWidget)

@@ -1,14 +1,8 @@
-#include "IMvAbstractMediaItem.h"
 #include "IMvTimelineRuler.h"
 #include "Memory/MvMemoryCompoundMediaItem.h"
-#include "Memory/MvMemoryMediaItem.h"
 #include "Memory/MvMemoryThreadGate.h"
 #include "MvCustomEvent.h"
-#include "MvEditFixture.h"
-#include "MvModelMessages.h"
-#include "MvRecordingTimeline.h"
-#include "MvTaskRunner_p.h"
-#include "MvTimelineAddMediaParam.h"
+#include "MvMediaTestSupport.h"
 #include "MvWaitDialog.h"
 
 #include <QApplication>
@@ -18,138 +12,9 @@
 #include <QtConcurrent>
 #include <QtTest>
 
-using namespace MVVBLMODEL;
+using namespace MvMediaTest;
 
 namespace {
-using Items = QList<IMvAbstractMediaItem*>;
-const QString PrepareFunction = QStringLiteral("MvTimelinePresenter::prepareAddMedias");
-
-// A presenter whose protected steps the test calls one by one.
-class MediaPresenter : public MvTimelinePresenter
-{
-public:
-    using MvTimelinePresenter::checkMatchProjectSettings;
-    using MvTimelinePresenter::downloadAndSelectVCGItems;
-    using MvTimelinePresenter::executeTaskWithLoadingIndicator;
-    using MvTimelinePresenter::getAddLoadingWgt;
-    using MvTimelinePresenter::MvTimelinePresenter;
-    using MvTimelinePresenter::notifyAddMediaSucceed;
-    using MvTimelinePresenter::prepareAddMedia;
-    using MvTimelinePresenter::prepareAddMedias;
-    using MvTimelinePresenter::selectVCGMediaItems;
-};
-
-// A timeline that notes what each insertion was asked for, on which thread, and can add flags
-// to the model's answer.
-class MediaTimeline : public MvRecordingTimeline
-{
-public:
-    using MvRecordingTimeline::MvRecordingTimeline;
-
-    struct Call
-    {
-        int policy = 0;
-        qint64 start = 0;
-        bool onGuiThread = false;
-        Items items;
-    };
-
-    unsigned addMedias(const MvTimelineAddMediaParam& param, QList<IMvClip*>& clips, int policy) override
-    {
-        calls.append({ policy, param.startFrame, QThread::currentThread() == qApp->thread(), param.mediaItems });
-        return MvRecordingTimeline::addMedias(param, clips, policy) | extraFlags;
-    }
-
-    QList<Call> calls;
-    unsigned extraFlags = 0;
-};
-
-using Fixture = MvEditFixture<MediaTimeline, MediaPresenter>;
-
-// Steps in order: every task runs at once, on this thread.
-void runTasksInOrder(Fixture& f)
-{
-    f.presenter->findChild<MvTaskRunner*>()->setExecutor(MvTaskRunner::callingThreadExecutor());
-}
-
-MvTimelineAddMediaParam request(const Items& items, qint64 start = 0)
-{
-    MvTimelineAddMediaParam param;
-    param.mediaItems = items;
-    param.startFrame = start;
-    return param;
-}
-
-QStringList namesOf(const Items& items)
-{
-    QStringList names;
-    for (const IMvAbstractMediaItem* item : items)
-        names.append(item ? item->name() : QStringLiteral("null"));
-    return names;
-}
-
-QStringList namesOf(const QList<IMvClip*>& clips)
-{
-    QStringList names;
-    for (const IMvClip* clip : clips)
-        names.append(clip->name());
-    return names;
-}
-
-// The scene downloads the items named (all when none are named).
-void downloadIn(Fixture& f, const QStringList& names = QStringList())
-{
-    f.scene.answer(MessageId::DownloadMediaItems, [names](MvMessage* message) {
-        const Items items = static_cast<MvMediaItemsMessage*>(message)->mediaItems();
-        for (IMvAbstractMediaItem* item : items) {
-            if (names.isEmpty() || names.contains(item->name()))
-                dynamic_cast<MvMemoryMediaItem*>(item)->setDownloaded(true);
-        }
-    });
-}
-
-// The owner of the test's media items.
-struct Library
-{
-    QList<MvMemoryMediaItem*> items;
-    ~Library() { qDeleteAll(items); }
-
-    MvMemoryMediaItem* add(MvMemoryMediaItem* item)
-    {
-        items.append(item);
-        return item;
-    }
-    MvMemoryMediaItem* local(const QString& name, MvMediaType type = MediaType_Video, qint64 ms = 2000)
-    {
-        return add(new MvMemoryMediaItem(name, type, ms));
-    }
-    MvMemoryMediaItem* remote(const QString& name)
-    {
-        MvMemoryMediaItem* item = local(name);
-        item->setRemote(true);
-        return item;
-    }
-    MvMemoryStockMediaItem* stock(const QString& name, int resolutions)
-    {
-        QStringList names;
-        for (int i = 0; i < resolutions; ++i)
-            names.append(QStringLiteral("r%1").arg(i));
-        auto* item = new MvMemoryStockMediaItem(name, MediaType_Video, 2000, names);
-        item->setDownloaded(true);
-        add(item);
-        return item;
-    }
-    MvMemoryVCGMediaItem* vcg(const QString& name, bool downloaded, int resolutions)
-    {
-        QStringList names;
-        for (int i = 0; i < resolutions; ++i)
-            names.append(QStringLiteral("r%1").arg(i));
-        auto* item = new MvMemoryVCGMediaItem(name, MediaType_Video, 2000, names);
-        item->setDownloaded(downloaded);
-        add(item);
-        return item;
-    }
-};
 
 // Every NotifyAddSharedClipsAssetsToProjectMedia raised while it lives.
 struct SharedAssetsRecorder
@@ -190,6 +55,7 @@ class tst_MvTimelinePresenterMediaInsertion : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+private Q_SLOTS:
     void insertsAtTheStartAndTellsTheScene();
     void messagesComeInPipelineOrder();
     void downloadLeavesOnlyWhatWasDownloaded_data();
@@ -198,8 +64,6 @@ private Q_SLOTS:
     void resolutionIsOfferedWhenThereIsAChoice();
     void startFrameFollowsTheProjectRate_data();
     void startFrameFollowsTheProjectRate();
-    void zeroLengthFilter_data();
-    void zeroLengthFilter();
     void nothingIsTouchedWhenPreparationLeavesNothing();
     void requestIsLeftAsItWas();
     void compoundMediaWaitAndInsertOnTheThreadPool();
@@ -207,14 +71,6 @@ private Q_SLOTS:
     void compoundRefusalToast();
     void modelCreatingNothingAnnouncesNothing();
     void subtitleClipOpensForEditing();
-    void vcgDownloadOrChoice_data();
-    void vcgDownloadOrChoice();
-    void vcgChoiceKeepsWhatTheSceneLeaves();
-    void projectSettingsOffer_data();
-    void projectSettingsOffer();
-    void waitDialogIsCentredOverTheView();
-    void succeededInsertionIsAnnouncedWhenAsked();
-    void prepareAddMediaTellsWhetherTheItemIsLeft();
     void refusesWithoutATimeline();
 };
 
@@ -433,44 +289,6 @@ void tst_MvTimelinePresenterMediaInsertion::startFrameFollowsTheProjectRate()
     QCOMPARE(numerator, int(toNumerator));
 }
 
-void tst_MvTimelinePresenterMediaInsertion::zeroLengthFilter_data()
-{
-    QTest::addColumn<int>("mediaType");
-    QTest::addColumn<qint64>("durationMs");
-    QTest::addColumn<bool>("kept");
-
-    QTest::newRow("video of length 0") << MediaType_Video << qint64(0) << false;
-    QTest::newRow("shorter than a frame") << MediaType_Audio << qint64(20) << false;
-    QTest::newRow("one frame") << MediaType_Audio << qint64(34) << true;
-    QTest::newRow("screen recording of length 0") << MediaType_ScreenRecording << qint64(0) << true;
-    QTest::newRow("compound of length 0") << MediaType_Compound << qint64(0) << true;
-}
-
-void tst_MvTimelinePresenterMediaInsertion::zeroLengthFilter()
-{
-    QFETCH(int, mediaType);
-    QFETCH(qint64, durationMs);
-    QFETCH(bool, kept);
-    Fixture f;
-    Library library;
-    IMvAbstractMediaItem* item = library.local(QStringLiteral("sample clip"), mediaType, durationMs);
-    IMvAbstractMediaItem* other = library.local(QStringLiteral("other"));
-
-    const Items prepared = f.presenter->prepareAddMedias({ item, other, item }, nullptr);
-
-    QCOMPARE(prepared, kept ? Items({ item, other, item }) : Items({ other }));
-    const QString logged = QStringLiteral("remove media with 0 length: sample clip");
-    if (kept)
-        QVERIFY(f.log.find(logged).isEmpty());
-    else
-        QCOMPARE(f.log.find(logged).size(), 2); // listed twice, removed twice
-    if (!kept) {
-        const MvLogRecord record = f.log.find(logged).first();
-        QCOMPARE(record.level, int(MvBaseLog::Refusal));
-        QCOMPARE(record.function, PrepareFunction);
-    }
-}
-
 void tst_MvTimelinePresenterMediaInsertion::nothingIsTouchedWhenPreparationLeavesNothing()
 {
     Fixture f;
@@ -661,180 +479,6 @@ void tst_MvTimelinePresenterMediaInsertion::subtitleClipOpensForEditing()
     QCOMPARE(static_cast<IMvClip*>(f.timeline.activeClip()), clips.first());
     QCOMPARE(f.timeline.activeIndex(), -1);
     QCOMPARE(f.playhead(), qint64(40));
-}
-
-void tst_MvTimelinePresenterMediaInsertion::vcgDownloadOrChoice_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<int>("message");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<bool>("flag");
-
-    QTest::newRow("not a vcg item") << "local" << 0 << "" << false;
-    QTest::newRow("description not downloaded")
-        << "undownloaded" << MessageId::DownloadMediaItems << "undownloaded" << true;
-    QTest::newRow("two resolutions") << "two" << MessageId::SelectVCGResolution << "two" << false;
-    QTest::newRow("one resolution") << "one" << 0 << "one local" << false;
-}
-
-void tst_MvTimelinePresenterMediaInsertion::vcgDownloadOrChoice()
-{
-    QFETCH(QString, first);
-    QFETCH(int, message);
-    QFETCH(QString, result);
-    QFETCH(bool, flag);
-    Fixture f;
-    Library library;
-    const QHash<QString, IMvAbstractMediaItem*> byName { { QStringLiteral("local"),
-                                                             library.local(QStringLiteral("local")) },
-        { QStringLiteral("undownloaded"), library.vcg(QStringLiteral("undownloaded"), false, 2) },
-        { QStringLiteral("two"), library.vcg(QStringLiteral("two"), true, 2) },
-        { QStringLiteral("one"), library.vcg(QStringLiteral("one"), true, 1) } };
-    bool downloadAsked = !flag;
-
-    const Items items = f.presenter->downloadAndSelectVCGItems(
-        { byName.value(first), byName.value(QStringLiteral("local")) }, &downloadAsked);
-
-    QCOMPARE(namesOf(items).join(QLatin1Char(' ')), result);
-    QCOMPARE(downloadAsked, flag);
-    QCOMPARE(f.scene.ids(), message ? QList<int>({ message }) : QList<int>());
-    if (message)
-        QCOMPARE(f.scene.entries().first().payload.toStringList(), QStringList({ first }));
-    QCOMPARE(f.log.find(QStringLiteral("not vcg item")).size(), first == QLatin1String("local") ? 1 : 0);
-    if (first == QLatin1String("local"))
-        QCOMPARE(mvCheckRecord(f.log, QStringLiteral("not vcg item"), MvBaseLog::Note,
-                     QStringLiteral("MvTimelinePresenter::downloadAndSelectVCGItems")),
-            QString());
-    QVERIFY(f.presenter->downloadAndSelectVCGItems({}, nullptr).isEmpty());
-}
-
-void tst_MvTimelinePresenterMediaInsertion::vcgChoiceKeepsWhatTheSceneLeaves()
-{
-    Fixture f;
-    Library library;
-    IMvAbstractMediaItem* local = library.local(QStringLiteral("local"));
-    IMvAbstractMediaItem* vcg = library.vcg(QStringLiteral("vcg"), true, 2);
-    IMvAbstractMediaItem* declined = library.vcg(QStringLiteral("declined"), true, 2);
-    f.scene.answer(MessageId::SelectVCGResolution, [declined](MvMessage* message) {
-        auto* items = static_cast<MvMediaItemsMessage*>(message);
-        Items left = items->mediaItems();
-        left.removeAll(declined);
-        items->setMediaItems(left);
-    });
-
-    QCOMPARE(f.presenter->selectVCGMediaItems({ local }), Items({ local }));
-    QCOMPARE(f.presenter->selectVCGMediaItems({ local, vcg, declined }), Items({ vcg }));
-
-    QCOMPARE(f.scene.ids(), QList<int>({ MessageId::SelectVCGResolution }));
-    QCOMPARE(f.scene.entries().first().payload.toStringList(),
-        QStringList({ QStringLiteral("vcg"), QStringLiteral("declined") }));
-}
-
-void tst_MvTimelinePresenterMediaInsertion::projectSettingsOffer_data()
-{
-    QTest::addColumn<QString>("items");
-    QTest::addColumn<QString>("offered");
-
-    QTest::newRow("none carries settings") << "plain plain2"
-                                           << "-";
-    QTest::newRow("the first that does") << "plain flagged recording"
-                                         << "flagged";
-    QTest::newRow("screen recording without info") << "null recording flagged"
-                                                   << "recording";
-    QTest::newRow("compound type") << "compound flagged"
-                                   << "compound";
-    QTest::newRow("made from the project: never") << "ownProject flagged"
-                                                  << "flagged";
-    QTest::newRow("info without the bit") << "unflagged"
-                                          << "-";
-}
-
-void tst_MvTimelinePresenterMediaInsertion::projectSettingsOffer()
-{
-    QFETCH(QString, items);
-    QFETCH(QString, offered);
-    Fixture f;
-    Library library;
-    MvMemoryMediaItem* flagged = library.local(QStringLiteral("flagged"));
-    flagged->setMediaInfo(MediaInfoFlag_OwnVideoSettings, MvRational { 25, 1 }, QSize(1, 1));
-    MvMemoryMediaItem* unflagged = library.local(QStringLiteral("unflagged"));
-    unflagged->setMediaInfo(0x2, MvRational { 25, 1 }, QSize(1, 1));
-    MvMemoryMediaItem* ownProject = library.local(QStringLiteral("ownProject"), MediaType_Compound);
-    ownProject->setOrigin(MediaOrigin_Project);
-    const QHash<QString, IMvAbstractMediaItem*> byName { { QStringLiteral("plain"),
-                                                             library.local(QStringLiteral("plain")) },
-        { QStringLiteral("plain2"), library.local(QStringLiteral("plain2")) }, { QStringLiteral("flagged"), flagged },
-        { QStringLiteral("unflagged"), unflagged }, { QStringLiteral("ownProject"), ownProject },
-        { QStringLiteral("recording"), library.local(QStringLiteral("recording"), MediaType_ScreenRecording) },
-        { QStringLiteral("compound"), library.local(QStringLiteral("compound"), MediaType_Compound) } };
-    Items request;
-    for (const QString& name : items.split(QLatin1Char(' ')))
-        request.append(byName.value(name));
-
-    f.presenter->checkMatchProjectSettings(request);
-
-    QCOMPARE(f.scene.count(MessageId::MatchProjectSettings), offered == QLatin1String("-") ? 0 : 1);
-    if (offered != QLatin1String("-"))
-        QCOMPARE(f.scene.entries().first().payload.toString(), offered);
-}
-
-void tst_MvTimelinePresenterMediaInsertion::waitDialogIsCentredOverTheView()
-{
-    Fixture f;
-    QScopedPointer<QDialog> orphan(f.presenter->getAddLoadingWgt());
-    QVERIFY(qobject_cast<MvWaitDialog*>(orphan.data()));
-    QCOMPARE(orphan->parentWidget(), nullptr);
-
-    QWidget window;
-    window.setGeometry(100, 80, 640, 480);
-    auto* view = new QWidget(&window);
-    view->setGeometry(40, 30, 301, 201);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    f.presenter->setView(view);
-    QScopedPointer<QDialog> dialog(f.presenter->getAddLoadingWgt());
-
-    QCOMPARE(dialog->parentWidget(), view);
-    QVERIFY(dialog->isModal());
-    QCOMPARE(dialog->size(), QSize(70, 70));
-    // 301 / 2 - 70 / 2 = 115 and 201 / 2 - 70 / 2 = 65, in the view, on the screen.
-    QCOMPARE(dialog->pos(), view->mapToGlobal(QPoint(115, 65)));
-}
-
-void tst_MvTimelinePresenterMediaInsertion::succeededInsertionIsAnnouncedWhenAsked()
-{
-    Fixture f;
-    Library library;
-    IMvAbstractMediaItem* video = library.local(QStringLiteral("video"));
-    int context = 0;
-    void* received = nullptr;
-    f.scene.answer(MessageId::AddMediaResponse, [&received](MvMessage* message) {
-        received = static_cast<MvTimelineAddMediaResponseMessage*>(message)->context();
-    });
-
-    f.presenter->notifyAddMediaSucceed({ video }, &context, 5, false);
-    f.presenter->notifyAddMediaSucceed({ video }, &context, 5, true);
-
-    QCOMPARE(f.scene.ids(),
-        QList<int>(
-            { MessageId::SwitchPlayerToTimeline, MessageId::AddMediaResponse, MessageId::SwitchPlayerToTimeline }));
-    QCOMPARE(received, static_cast<void*>(&context));
-}
-
-void tst_MvTimelinePresenterMediaInsertion::prepareAddMediaTellsWhetherTheItemIsLeft()
-{
-    Fixture f;
-    Library library;
-    downloadIn(f, { QStringLiteral("fetched") });
-
-    QVERIFY(f.presenter->prepareAddMedia(library.local(QStringLiteral("local"))));
-    QVERIFY(f.presenter->prepareAddMedia(library.remote(QStringLiteral("fetched"))));
-    QVERIFY(!f.presenter->prepareAddMedia(library.remote(QStringLiteral("unreachable"))));
-    QVERIFY(!f.presenter->prepareAddMedia(nullptr));
-
-    QCOMPARE(f.scene.count(MessageId::PausePlayerWithSync), 4);
-    QCOMPARE(
-        mvCheckRecord(f.log, QStringLiteral("media item is null"), MvBaseLog::Warning, PrepareFunction), QString());
 }
 
 void tst_MvTimelinePresenterMediaInsertion::refusesWithoutATimeline()

@@ -1,10 +1,15 @@
 #include "Memory/MvMemoryRenderService.h"
 #include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvStripPainter_p.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRenderWidget.h"
 
 #include <QtTest>
+
+using Spans = QVector<MvPixelSpan>;
+using Runs = QList<QList<int>>; // x0, x1 (device columns), state (1 finished, 2 to render, 3 both)
+Q_DECLARE_METATYPE(Spans)
 
 namespace {
 
@@ -64,6 +69,9 @@ private Q_SLOTS:
     void observersAreRegisteredAndRemovedOnDestruction();
     void segmentsArePaintedInTimelineCoordinates();
     void onlyRangeNotificationsRebuild();
+    void stretchesBecomeRunsOfDevicePixels_data();
+    void stretchesBecomeRunsOfDevicePixels();
+    void manySegmentsPaintFewRuns();
 };
 
 void tst_MvTimelineRenderWidget::observersAreRegisteredAndRemovedOnDestruction()
@@ -117,6 +125,70 @@ void tst_MvTimelineRenderWidget::onlyRangeNotificationsRebuild()
         const bool rebuilt = f.grab().pixel(50, height - 1) == kDone.rgb();
         QVERIFY2(rebuilt == (kind == 3 || kind == 5), qPrintable(QStringLiteral("kind %1").arg(kind)));
     }
+}
+
+void tst_MvTimelineRenderWidget::stretchesBecomeRunsOfDevicePixels_data()
+{
+    QTest::addColumn<Spans>("finished");
+    QTest::addColumn<Spans>("pending");
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<Runs>("runs");
+    QTest::newRow("rendered only") << Spans { { 0, 10 } } << Spans() << 1.0 << Runs { { 0, 10, 1 } };
+    QTest::newRow("to render inside rendered")
+        << Spans { { 0, 10 } } << Spans { { 3, 5 } } << 1.0 << Runs { { 0, 3, 1 }, { 3, 5, 3 }, { 5, 10, 1 } };
+    QTest::newRow("states side by side") << Spans { { 0, 4 } } << Spans { { 4, 8 } } << 1.0
+                                         << Runs { { 0, 4, 1 }, { 4, 8, 2 } };
+    QTest::newRow("overlapping and touching stretches join")
+        << Spans { { 5, 9 }, { 0, 3 }, { 3, 6 } } << Spans() << 1.0 << Runs { { 0, 9, 1 } };
+    QTest::newRow("a single frame covers nothing") << Spans { { 5, 5 } } << Spans { { 7, 7 } } << 1.0 << Runs();
+    // Pixel centres after 1.5 and not after 4.5: pixels 2, 3 and 4.
+    QTest::newRow("at 1.5") << Spans { { 1, 3 } } << Spans() << 1.5 << Runs { { 2, 5, 1 } };
+    QTest::newRow("at 2, gaps kept") << Spans { { 0, 1 }, { 2, 3 } } << Spans { { 1, 2 } } << 2.0
+                                     << Runs { { 0, 2, 1 }, { 2, 4, 2 }, { 4, 6, 1 } };
+}
+
+// What a paint fills is worked out when the stretches change: runs of whole device columns,
+// each rendered, to render, or both (the second drawn over the first).
+void tst_MvTimelineRenderWidget::stretchesBecomeRunsOfDevicePixels()
+{
+    QFETCH(Spans, finished);
+    QFETCH(Spans, pending);
+    QFETCH(double, scale);
+    QFETCH(Runs, runs);
+    MvStripRuns strip;
+    strip.finishedSpans() = finished;
+    strip.unfinishedSpans() = pending;
+    strip.rebuild(scale);
+    Runs actual;
+    for (const MvStripRuns::Run& run : strip.runs())
+        actual.append({ run.x0, run.x1, run.state });
+    QCOMPARE(actual, runs);
+}
+
+// Ten thousand alternating segments, six to a pixel: every pixel holds both states, so a paint
+// fills one run whatever the segment count, and it shows the colour of the segments to render.
+void tst_MvTimelineRenderWidget::manySegmentsPaintFewRuns()
+{
+    Fixture f;
+    f.strip.setFinishedColor(kDone);
+    f.strip.setUnFinishedColor(kPending);
+    QList<MvRenderSegment> segments;
+    for (int i = 0; i < 10000; ++i)
+        segments.append({ qint64(i) / 2, qint64(i) / 2 + 3, quint64(i % 2) });
+    f.service()->setSegments(segments); // three frames a pixel: x 0..1667
+    const QImage image = f.grab();
+    for (int x : { 0, 299, kWidth - 1 })
+        QCOMPARE(image.pixel(x, 3), kPending.rgb());
+
+    MvStripRuns strip;
+    for (const MvRenderSegment& segment : qAsConst(segments)) {
+        const MvPixelSpan span { f.timeline.scripted.frameToPixel(segment.start),
+            f.timeline.scripted.frameToPixel(segment.end) };
+        (segment.unfinished ? strip.unfinishedSpans() : strip.finishedSpans()).append(span);
+    }
+    strip.rebuild(1.0);
+    QCOMPARE(strip.runs().size(), 1);
+    QCOMPARE(int(strip.runs().constFirst().state), MvStripRuns::Finished | MvStripRuns::Unfinished);
 }
 
 QTEST_MAIN(tst_MvTimelineRenderWidget)

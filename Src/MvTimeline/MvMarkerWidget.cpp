@@ -1,20 +1,17 @@
 #include "MvMarkerWidget.h"
 
+#include "MvMarkerStripPainter_p.h"
+
 #include <QPainter>
 
 namespace {
 constexpr int kMarkerWidth = 11;
 constexpr int kMarkerHeight = 14;
-
-void drawMarker(QPainter& painter, const QImage& image, int x)
-{
-    if (!image.isNull())
-        painter.drawImage(MvMarkerWidget::markerRect(x), image);
-}
 }
 
 MvMarkerWidget::MvMarkerWidget(MvMarkerPresenter* presenter, QWidget* parent)
     : MvWidget(parent)
+    , m_stripPainter(new MvMarkerStripPainter)
 {
     setPresenter(presenter);
 }
@@ -69,24 +66,12 @@ void MvMarkerWidget::paintEvent(QPaintEvent* event)
     if (!m_presenter)
         return;
     QPainter painter(this);
-    const int count = m_markers.size();
-    const bool hoverValid = m_hoverIndex >= 0 && m_hoverIndex < count;
-    if (m_floating1 || m_floating2) {
-        // The hovered marker follows the pointer, over all the others.
-        for (int i = 0; i < count; ++i) {
-            if (i != m_hoverIndex)
-                drawMarker(painter, m_presenter->normalMarkerImage(m_markers.at(i).second), m_markers.at(i).first);
-        }
-        if (hoverValid)
-            drawMarker(painter, m_presenter->horverMarkerImage(m_markers.at(m_hoverIndex).second), m_floatingX);
-    } else {
-        for (int i = 0; i < count; ++i) {
-            const MvMarkerPresenter::MarkerItem& marker = m_markers.at(i);
-            const QImage image = i == m_hoverIndex ? m_presenter->horverMarkerImage(marker.second)
-                                                   : m_presenter->normalMarkerImage(marker.second);
-            drawMarker(painter, image, marker.first);
-        }
-    }
-    if (m_pressVisible && m_pressIndex >= 0 && m_pressIndex < count)
-        drawMarker(painter, m_presenter->pressMarkerImage(m_markers.at(m_pressIndex).second), m_floatingX);
+    MvMarkerStripScene scene;
+    scene.markers = m_markers;
+    scene.floating = m_floating1 || m_floating2;
+    scene.floatingX = m_floatingX;
+    scene.hoverIndex = m_hoverIndex;
+    scene.pressVisible = m_pressVisible;
+    scene.pressIndex = m_pressIndex;
+    m_stripPainter->paint(painter, *this, *m_presenter, scene);
 }

@@ -7,10 +7,18 @@
 #include <QList>
 #include <QPair>
 #include <QRect>
+#include <QScopedPointer>
+
+class MvMarkerStripPainter;
 
 // The marker strip: paints every marker of its presenter's list, one marker hovered and one
 // pressed. The hover, press and floating state is set by a host subclass from its mouse
 // handling; the library only initialises it and clears the pressed look on request.
+//
+// The markers are drawn once into a layer that later paints copy (only the part being painted),
+// so that a strip of thousands of markers repaints at about the cost of filling it. The layer is
+// redrawn when the list, the images (looked up at each paint, once per colour), the size or the
+// scale change, and around the markers concerned when the state members change.
 class MVTIMELINE_EXPORT MvMarkerWidget : public MvWidget
 {
     Q_OBJECT
@@ -46,4 +54,5 @@ protected:
 
 private:
     Q_DISABLE_COPY(MvMarkerWidget)
+    QScopedPointer<MvMarkerStripPainter> m_stripPainter;
 };

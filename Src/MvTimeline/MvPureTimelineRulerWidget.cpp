@@ -273,7 +273,7 @@ void MvPureTimelineRulerWidget::paintEvent(QPaintEvent* event)
     Q_UNUSED(event)
     Q_D(MvPureTimelineRulerWidget);
     QPainter painter(this);
-    MvRulerPainter::paint(painter, rect(), palette().brush(QPalette::Window), d->ruler, d->layout);
+    MvRulerPainter::paint(painter, rect(), palette().brush(QPalette::Window), d->ruler, d->paintCache);
 }
 
 void MvPureTimelineRulerWidget::resizeEvent(QResizeEvent* event)

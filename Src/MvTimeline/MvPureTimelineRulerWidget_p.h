@@ -3,7 +3,7 @@
 #include "IMvTimelineRuler.h"
 #include "MvPureTimelineRulerWidget.h"
 #include "MvRulerGesture_p.h"
-#include "MvRulerTickLayout_p.h"
+#include "MvRulerPainter_p.h"
 
 class MvPureTimelineRulerWidgetPrivate : public IMvTimelineRulerEventObserover
 {
@@ -44,5 +44,5 @@ public:
     MvRulerGesture* gesture;
     MvEventFilterManager* eventFilterMgr;
     bool firstShow = true;
-    MvRulerLayout layout; // reused by every paint
+    MvRulerPaintCache paintCache; // kept from paint to paint
 };

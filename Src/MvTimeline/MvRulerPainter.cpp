@@ -1,9 +1,10 @@
 #include "MvRulerPainter_p.h"
 
 #include "IMvTimelineRuler.h"
+#include "MvDevicePixels_p.h"
 #include "MvScreen.h"
 #include "MvSkinStyle.h"
-#include "MvTimelineRulerPresenter.h"
+#include "MvTimeCode_p.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -12,46 +13,99 @@
 
 #include <algorithm>
 #include <cmath>
-
-namespace MvExactFill {
-
-int firstCentreAfter(double device)
-{
-    // The filler works in 26.6 fixed point; a pixel k has its centre at 64k + 32.
-    const qint64 fixed = std::llround(device * 64.0);
-    const qint64 shifted = fixed - 32;
-    const qint64 below = shifted >= 0 ? shifted / 64 : -((-shifted + 63) / 64);
-    return int(below + 1);
-}
-
-bool canSnap(const QPainter& painter)
-{
-    return painter.deviceTransform().type() <= QTransform::TxScale && !painter.testRenderHint(QPainter::Antialiasing);
-}
-
-// Fills device pixels [x0, x1) x [y0, y1). fillRect rounds the mapped rectangle to whole device
-// pixels when the transform only scales, so handing it the exact preimage hits those pixels.
-static void fillDevice(
-    QPainter& painter, const QTransform& inverse, int x0, int y0, int x1, int y1, const QColor& color)
-{
-    painter.fillRect(inverse.mapRect(QRectF(x0, y0, x1 - x0, y1 - y0)), color);
-}
-
-}
+#include <limits>
 
 namespace {
 
-struct RowSpan
-{
-    int first = 0;
-    int last = 0; // exclusive
-};
+// Device pixels a label drawn as text may reach beyond its rectangle.
+constexpr int kLabelOverhang = 2;
 
-RowSpan deviceRows(const QTransform& t, double top, double height)
+int labelWidth(const QPainter& painter, MvRulerPaintCache* cache)
 {
-    const double bottom = top + height;
-    return { MvExactFill::firstCentreAfter(top * t.m22() + t.dy()),
-        MvExactFill::firstCentreAfter(bottom * t.m22() + t.dy()) };
+    const QFont font = painter.font();
+    const int dpi = painter.device() ? painter.device()->logicalDpiY() : 0;
+    if (cache->labelWidth < 0 || cache->labelDpi != dpi || cache->labelFont != font) {
+        cache->labelFont = font;
+        cache->labelDpi = dpi;
+        cache->labelWidth = QFontMetrics(font).boundingRect(QStringLiteral("00:00:00:00")).width();
+    }
+    return cache->labelWidth;
+}
+
+// Lays out the ticks and labels and formats the labels' time codes, unless the view is the one
+// the cache was laid out for.
+void layOut(const MvRulerLayoutInput& input, int numerator, int denominator, MvRulerPaintCache* cache)
+{
+    if (cache->laidOut && input == cache->input && numerator == cache->numerator && denominator == cache->denominator)
+        return;
+    MvRulerTickLayout::layout(input, &cache->layout);
+    const QVector<MvRulerLabel>& labels = cache->layout.labels;
+    cache->labelTexts.resize(labels.size());
+    for (int i = 0; i < labels.size(); ++i)
+        cache->labelTexts[i] = MvTimeCode::format(labels.at(i).frame, numerator, denominator);
+    cache->input = input;
+    cache->numerator = numerator;
+    cache->denominator = denominator;
+    cache->laidOut = true;
+    cache->ticksPlaced = false;
+}
+
+// The device pixels of every tick, worked out again only when the layout or the transform changed.
+const QVector<QRect>& placeTicks(const QTransform& t, double tickWidth, int height, int dy, MvRulerPaintCache* cache)
+{
+    if (cache->ticksPlaced && cache->tickTransform == t && cache->tickWidth == tickWidth)
+        return cache->tickRects;
+    const double tickHeight = double(height + dy);
+    // Ticks come in two heights; their rows are worked out once per height.
+    int knownTop[2] = { std::numeric_limits<int>::min(), std::numeric_limits<int>::min() };
+    MvExactFill::Rows knownRows[2];
+    QVector<QRect>& rects = cache->tickRects;
+    rects.resize(0);
+    for (const MvRulerTick& tick : qAsConst(cache->layout.ticks)) {
+        const int slot = tick.major ? 0 : 1;
+        if (knownTop[slot] != tick.top) {
+            knownTop[slot] = tick.top;
+            knownRows[slot] = MvExactFill::rowsCovered(t, tick.top, tickHeight);
+        }
+        const MvExactFill::Rows rows = knownRows[slot];
+        const int x0 = MvExactFill::firstCentreAfter(tick.left * t.m11() + t.dx());
+        const int x1 = MvExactFill::firstCentreAfter((double(tick.left) + tickWidth) * t.m11() + t.dx());
+        if (x1 > x0 && rows.last > rows.first)
+            rects.append(QRect(x0, rows.first, x1 - x0, rows.last - rows.first));
+    }
+    cache->tickTransform = t;
+    cache->tickWidth = tickWidth;
+    cache->ticksPlaced = true;
+    return rects;
+}
+
+// The ticks as device-pixel rectangles handed over in one call: the same pixels as filling
+// them one by one, at a fraction of the cost, when the target is an image of 32-bit pixels under
+// a scale-only transform. False when that does not hold and the ticks are still to be filled.
+bool fillTickRects(QPainter& painter, const MvDeviceClip& clip, double tickWidth, int height, int dy, const QColor& ink,
+    MvRulerPaintCache* cache)
+{
+    if (!MvDevicePixels::isPlainScale(painter) || MvDevicePixels::rasterFormat(painter) == QImage::Format_Invalid)
+        return false;
+    const QVector<QRect>& all = placeTicks(painter.deviceTransform(), tickWidth, height, dy, cache);
+    const QVector<QRect>* shown = &all;
+    // Ticks come in order of x; only a paint of part of the ruler needs to pick them.
+    if (!all.isEmpty() && !clip.coversColumns(all.constFirst().left(), all.constLast().right() + 1)) {
+        QVector<QRect>& some = cache->shownTicks;
+        some.resize(0);
+        for (const QRect& rect : all) {
+            if (clip.meetsColumns(rect.left(), rect.left() + rect.width()))
+                some.append(rect);
+        }
+        shown = &some;
+    }
+    if (shown->isEmpty())
+        return true;
+    const MvDeviceSpace deviceSpace(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawRects(shown->constData(), shown->size());
+    return true;
 }
 
 void fillTicksWithPath(
@@ -63,43 +117,28 @@ void fillTicksWithPath(
     painter.fillPath(path, color);
 }
 
-}
-
-namespace MvRulerPainter {
-
-void fillTicks(
-    QPainter& painter, const MvRulerLayout& layout, double tickWidth, int height, int dy, const QColor& color)
+// The ticks one rectangle at a time, for targets that cannot take them in one call; as paths
+// when the painter does more than scale and translate.
+void fillTicksOneByOne(
+    QPainter& painter, double tickWidth, int height, int dy, const QColor& ink, MvRulerPaintCache* cache)
 {
-    if (layout.ticks.isEmpty())
-        return;
     if (!MvExactFill::canSnap(painter)) {
-        fillTicksWithPath(painter, layout, tickWidth, height, dy, color);
+        fillTicksWithPath(painter, cache->layout, tickWidth, height, dy, ink);
         return;
     }
     const QTransform t = painter.deviceTransform();
     const QTransform inverse = t.inverted();
-    const double tickHeight = double(height + dy);
-    // Ticks come in two heights; their rows are worked out once per height.
-    int cachedTop[2] = { layout.ticks.constFirst().top, layout.ticks.constFirst().top };
-    RowSpan cachedRows[2];
-    cachedRows[0] = cachedRows[1] = deviceRows(t, cachedTop[0], tickHeight);
-    for (const MvRulerTick& tick : layout.ticks) {
-        const int slot = tick.major ? 0 : 1;
-        if (cachedTop[slot] != tick.top) {
-            cachedTop[slot] = tick.top;
-            cachedRows[slot] = deviceRows(t, tick.top, tickHeight);
-        }
-        const RowSpan rows = cachedRows[slot];
-        const double right = double(tick.left) + tickWidth;
-        const int x0 = MvExactFill::firstCentreAfter(tick.left * t.m11() + t.dx());
-        const int x1 = MvExactFill::firstCentreAfter(right * t.m11() + t.dx());
-        if (x1 > x0 && rows.last > rows.first)
-            MvExactFill::fillDevice(painter, inverse, x0, rows.first, x1, rows.last, color);
-    }
+    for (const QRect& rect : placeTicks(t, tickWidth, height, dy, cache))
+        MvExactFill::fillDevice(
+            painter, inverse, rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height(), ink);
 }
 
+}
+
+namespace MvRulerPainter {
+
 void paint(
-    QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerLayout& scratch)
+    QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerPaintCache& cache)
 {
     if (!ruler)
         return;
@@ -120,66 +159,29 @@ void paint(
     ruler->visualRange(&input.start, &end);
     input.spacing = ruler->tickSpacing();
     input.step = ruler->framesPerTick();
-    input.labelWidth = QFontMetrics(painter.font()).boundingRect(QStringLiteral("00:00:00:00")).width();
-    MvRulerTickLayout::layout(input, &scratch);
-
+    input.labelWidth = labelWidth(painter, &cache);
     int numerator = 0;
     int denominator = 0;
     ruler->frameRate(&numerator, &denominator);
-    for (const MvRulerLabel& label : qAsConst(scratch.labels)) {
-        painter.drawText(label.rect, Qt::AlignLeft | Qt::AlignTop,
-            MvTimelineRulerPresenter::formatTimecode(label.frame, numerator, denominator));
+    layOut(input, numerator, denominator, &cache);
+
+    const MvDeviceClip clip(painter);
+    const bool solid = background.style() == Qt::SolidPattern;
+    cache.labels.begin(painter, solid ? background.color() : QColor(), rect, clip);
+    const QTransform toDevice = painter.deviceTransform();
+    const QVector<MvRulerLabel>& labels = cache.layout.labels;
+    for (int i = 0; i < labels.size(); ++i) {
+        // A label's text stays within its rectangle but for a pixel or two of overhang.
+        const QRect reach = toDevice.mapRect(labels.at(i).rect).toAlignedRect();
+        if (clip.meetsColumns(reach.left() - kLabelOverhang, reach.left() + reach.width() + kLabelOverhang))
+            cache.labels.draw(painter, labels.at(i).rect, cache.labelTexts.at(i));
     }
-    fillTicks(painter, scratch, 1.0 / MvScreen::devicePixelRatio(), input.height, dy, ink);
+    cache.labels.end(painter);
+
+    const double tickWidth = 1.0 / MvScreen::devicePixelRatio();
+    if (!fillTickRects(painter, clip, tickWidth, input.height, dy, ink, &cache))
+        fillTicksOneByOne(painter, tickWidth, input.height, dy, ink, &cache);
     painter.restore();
-}
-
-}
-
-namespace MvStripPainter {
-
-void mergeSpans(QVector<MvPixelSpan>* spans)
-{
-    const auto byStart = [](const MvPixelSpan& a, const MvPixelSpan& b) { return a.x0 < b.x0; };
-    if (!std::is_sorted(spans->cbegin(), spans->cend(), byStart))
-        std::sort(spans->begin(), spans->end(), byStart);
-    int out = 0;
-    for (const MvPixelSpan& span : qAsConst(*spans)) {
-        if (span.x1 <= span.x0)
-            continue; // covers no pixel centre at any scale
-        if (out > 0 && span.x0 <= (*spans)[out - 1].x1) {
-            (*spans)[out - 1].x1 = std::max((*spans)[out - 1].x1, span.x1);
-            continue;
-        }
-        (*spans)[out++] = span;
-    }
-    spans->resize(out);
-}
-
-void fillSpans(QPainter& painter, const QVector<MvPixelSpan>& merged, int width, int height, const QColor& color)
-{
-    // Stretches wholly left of 0 or right of the width only reach pixels outside the widget.
-    auto it = std::lower_bound(
-        merged.cbegin(), merged.cend(), 0, [](const MvPixelSpan& span, int x) { return span.x1 < x; });
-    if (!MvExactFill::canSnap(painter)) {
-        QPainterPath path;
-        path.setFillRule(Qt::WindingFill);
-        for (; it != merged.cend() && it->x0 <= width; ++it)
-            path.addRect(QRectF(it->x0, 0, it->x1 - it->x0, height));
-        painter.fillPath(path, color);
-        return;
-    }
-    const QTransform t = painter.deviceTransform();
-    const QTransform inverse = t.inverted();
-    const RowSpan rows = deviceRows(t, 0.0, double(height));
-    if (rows.last <= rows.first)
-        return;
-    for (; it != merged.cend() && it->x0 <= width; ++it) {
-        const int x0 = MvExactFill::firstCentreAfter(it->x0 * t.m11() + t.dx());
-        const int x1 = MvExactFill::firstCentreAfter(it->x1 * t.m11() + t.dx());
-        if (x1 > x0)
-            MvExactFill::fillDevice(painter, inverse, x0, rows.first, x1, rows.last, color);
-    }
 }
 
 }

@@ -32,6 +32,12 @@ struct MvRulerLayoutInput
     double spacing = 0; // pixels between ticks
     qint64 step = 0; // frames between ticks
     int labelWidth = 0; // width of "00:00:00:00" in the ruler's font
+
+    bool operator==(const MvRulerLayoutInput& other) const
+    {
+        return width == other.width && height == other.height && dy == other.dy && start == other.start
+            && spacing == other.spacing && step == other.step && labelWidth == other.labelWidth;
+    }
 };
 
 struct MvRulerLayout

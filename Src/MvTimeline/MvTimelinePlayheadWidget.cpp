@@ -9,12 +9,15 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 using MVWIDGETS::MvWidgetStyleStatus;
 
 namespace {
 constexpr int kToolTipSeconds = 3;
+// Room around each part of the playhead for smoothed and scaled edges.
+constexpr int kAreaMargin = 1;
 
 bool isSingleDragButton(Qt::MouseButtons buttons)
 {
@@ -94,9 +97,33 @@ MvTimelinePlayheadPresenter* MvTimelinePlayheadWidget::presenter() const
     return m_presenter;
 }
 
+QRegion MvTimelinePlayheadWidget::playheadArea()
+{
+    if (!m_presenter || !m_presenter->playheadVisible())
+        return QRegion();
+    const MvPlayheadData* data = m_presenter->playheadData();
+    const int x = m_presenter->position();
+    const int pen = data->lineWidth;
+    // The line's square caps reach half a pen beyond both ends; a whole pen is kept either way.
+    const QRect line(x - pen, data->lineTop - pen, 2 * pen + 1, height() - data->lineTop + 2 * pen);
+    const QRect head = m_presenter->playheadRect() | m_presenter->currentShape().boundingRect();
+    QRegion area = QRegion(head.adjusted(-kAreaMargin, -kAreaMargin, kAreaMargin, kAreaMargin))
+        | QRegion(line.adjusted(-kAreaMargin, -kAreaMargin, kAreaMargin, kAreaMargin));
+    if (m_presenter->splitButtonVisible())
+        area |= m_presenter->splitButtonRect().adjusted(-kAreaMargin, -kAreaMargin, kAreaMargin, kAreaMargin);
+    return area;
+}
+
 void MvTimelinePlayheadWidget::slotUpdateUI()
 {
-    update();
+    repaintPlayheadArea();
+}
+
+void MvTimelinePlayheadWidget::repaintPlayheadArea()
+{
+    const QRegion now = playheadArea();
+    update(m_shownArea | now);
+    m_shownArea = now;
 }
 
 void MvTimelinePlayheadWidget::drawPlayhead(QPainter* painter)
@@ -131,7 +158,9 @@ void MvTimelinePlayheadWidget::drawSplitButton(QPainter* painter)
 
 void MvTimelinePlayheadWidget::paintEvent(QPaintEvent* event)
 {
-    Q_UNUSED(event)
+    // Pixels inside the painted region now show the playhead as it is; outside they are as before.
+    // A change the presenter did not announce is thus still erased by the next repaint.
+    m_shownArea = (m_shownArea - event->region()) | (playheadArea() & event->region());
     if (!m_presenter || !m_presenter->playheadVisible())
         return;
     QPainter painter(this);
@@ -211,7 +240,7 @@ bool MvTimelinePlayheadWidget::dragTo(const QPoint& pos)
         m_lastPos.setY(y);
     }
     m_presenter->updatePosition(x, dy);
-    update();
+    repaintPlayheadArea();
     return true;
 }
 
@@ -298,5 +327,5 @@ void MvTimelinePlayheadWidget::applySplitButtonStatus(MvWidgetStyleStatus status
     if (m_presenter->splitButtonStatus() == status)
         return;
     m_presenter->setSplitButtonStatus(status);
-    update();
+    repaintPlayheadArea();
 }

@@ -6,6 +6,7 @@
 #include "MvWidgetsGlobal.h"
 
 #include <QPoint>
+#include <QRegion>
 
 class MvTimelinePlayheadPresenter;
 class QContextMenuEvent;
@@ -42,6 +43,12 @@ public:
     MVWIDGETS::MvWidgetStyleStatus itemStatus() const;
     bool isFollowing() const;
     MvTimelinePlayheadPresenter* presenter() const;
+    // Where the playhead is drawn now: the head, the line down to the bottom edge and, while
+    // shown, the split button, each with a pixel to spare for smoothed edges; empty while the
+    // playhead is hidden. Repaints cover only this area as it was and as it is, so that nothing
+    // else under the overlay repaints while the playhead moves. drawPlayhead and drawSplitButton
+    // overrides must stay inside it.
+    QRegion playheadArea();
 
 public Q_SLOTS:
     void slotUpdateUI();
@@ -69,6 +76,8 @@ protected:
 private:
     void applySplitButtonStatus(MVWIDGETS::MvWidgetStyleStatus status);
     bool dragTo(const QPoint& pos);
+    // Repaints the playhead where it was and where it is now.
+    void repaintPlayheadArea();
 
     Q_DISABLE_COPY(MvTimelinePlayheadWidget)
     MvTimelinePlayheadPresenter* m_presenter;
@@ -77,4 +86,5 @@ private:
     MVWIDGETS::MvWidgetStyleStatus m_itemStatus = MVWIDGETS::Normal;
     QPoint m_lastPos;
     bool m_playheadDragStarted = false;
+    QRegion m_shownArea; // where the playhead may be on screen once pending repaints are done
 };

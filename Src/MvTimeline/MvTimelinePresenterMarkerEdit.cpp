@@ -12,6 +12,7 @@
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerPresenter.h"
 #include "MvCommandScope_p.h"
+#include "MvTimeCode_p.h"
 #include "MvTimelineLog_p.h"
 #include "MvTimelineModelAccess_p.h"
 #include "MvUtility.h"
@@ -23,25 +24,19 @@ MV_LOG_FILE("Src/MvTimeline/MvTimelinePresenter");
 namespace {
 constexpr int kNominalRateWithoutRuler = 30;
 
-// "HH:MM:SS:FF", non-drop: frames are counted at the nominal rate (29.97 counts as 30), which is
-// how the ruler labels its ticks too.
+// The marker's time as the ruler labels that frame: the same formatter at the ruler's rate (30
+// frames a second without a ruler or a rate).
 QString formatTimeCode(qint64 frame, const IMvTimelineRuler* ruler)
 {
     int numerator = 0;
     int denominator = 0;
     if (ruler)
         ruler->frameRate(&numerator, &denominator);
-    const qint64 base = numerator > 0 && denominator > 0
-        ? std::max<qint64>(1, qRound64(double(numerator) / double(denominator)))
-        : kNominalRateWithoutRuler;
-    const qint64 total = std::max<qint64>(0, frame);
-    const qint64 seconds = total / base;
-    const QLatin1Char zero('0');
-    return QStringLiteral("%1:%2:%3:%4")
-        .arg(seconds / 3600, 2, 10, zero)
-        .arg((seconds / 60) % 60, 2, 10, zero)
-        .arg(seconds % 60, 2, 10, zero)
-        .arg(total % base, 2, 10, zero);
+    if (numerator <= 0 || denominator <= 0) {
+        numerator = kNominalRateWithoutRuler;
+        denominator = 1;
+    }
+    return MvTimeCode::format(std::max<qint64>(0, frame), numerator, denominator);
 }
 }
 

@@ -45,6 +45,8 @@ void MvTimelineRenderWidgetPrivate::onRulerEvent(int kind)
 void MvTimelineRenderWidgetPrivate::rebuild()
 {
     Q_Q(MvTimelineRenderWidget);
+    QVector<MvPixelSpan>& finishedSpans = strip.finishedSpans();
+    QVector<MvPixelSpan>& unfinishedSpans = strip.unfinishedSpans();
     finishedSpans.resize(0);
     unfinishedSpans.resize(0);
     const int h = q->height();
@@ -61,9 +63,9 @@ void MvTimelineRenderWidgetPrivate::rebuild()
             else
                 finishedSpans.append(span);
         }
-        MvStripPainter::mergeSpans(&finishedSpans);
-        MvStripPainter::mergeSpans(&unfinishedSpans);
     }
+    // Runs of device pixels now, so that a paint fills a few of them whatever the segment count.
+    strip.rebuild(q->devicePixelRatioF(), -1, q->width() + 1);
     q->update();
     QWidget* parent = q->parentWidget();
     if (MvScreen::isPixelRatio25_75() && parent) {
@@ -76,14 +78,8 @@ void MvTimelineRenderWidgetPrivate::paint()
 {
     Q_Q(MvTimelineRenderWidget);
     QPainter painter(q);
-    painter.save();
-    painter.setPen(Qt::NoPen);
     // An unset colour paints nothing until the style sets it.
-    if (finishedColor.isValid())
-        MvStripPainter::fillSpans(painter, finishedSpans, q->width(), spanHeight, finishedColor);
-    if (unFinishedColor.isValid())
-        MvStripPainter::fillSpans(painter, unfinishedSpans, q->width(), spanHeight, unFinishedColor);
-    painter.restore();
+    strip.paint(painter, q->width(), spanHeight, finishedColor, unFinishedColor);
 }
 
 MvTimelineRenderWidget::MvTimelineRenderWidget(MvTimelinePresenter* presenter, QWidget* parent)

@@ -2,7 +2,7 @@
 
 #include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
-#include "MvRulerPainter_p.h"
+#include "MvStripPainter_p.h"
 #include "MvTimelineRenderWidget.h"
 
 #include <QVector>
@@ -27,9 +27,9 @@ public:
     MvTimelinePresenter* timelinePresenter;
     QColor finishedColor;
     QColor unFinishedColor;
-    // The rectangles (x0, 0, x1 - x0, height) of each state, merged in order of x.
-    QVector<MvPixelSpan> finishedSpans;
-    QVector<MvPixelSpan> unfinishedSpans;
+    // The rectangles (x0, 0, x1 - x0, height) of each state, merged in order of x, and their runs
+    // of device columns.
+    MvStripRuns strip;
     int spanHeight = 0; // the height at the last rebuild
 
     IMvTimelineRenderService* renderService = nullptr;

@@ -3,54 +3,12 @@
 #include "IMvTimeline.h"
 #include "MvRulerGesture_p.h"
 #include "MvRulerPainter_p.h"
+#include "MvTimeCode_p.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRulerPresenter_p.h"
 
 #include <QPainter>
 #include <QWidget>
-
-namespace {
-
-// Writes value in base 10, at least two digits, and returns the position after it.
-QChar* writePadded(QChar* out, quint64 value)
-{
-    char digits[20];
-    int count = 0;
-    do {
-        digits[count++] = char('0' + value % 10);
-        value /= 10;
-    } while (value != 0);
-    if (count < 2)
-        digits[count++] = '0';
-    while (count > 0)
-        *out++ = QLatin1Char(digits[--count]);
-    return out;
-}
-
-// The clock fields are worked out in units of 1/10000 frame so that fractional rates need no
-// floating point per frame; the rate itself is rounded once, to float, as the product always did.
-QString formatScaled(int frame, quint64 scaledRate)
-{
-    const quint64 t = quint64(qint64(frame)) * 10000u;
-    const quint64 hours = t / (scaledRate * 3600u);
-    const quint64 r1 = t % (scaledRate * 3600u);
-    const quint64 minutes = r1 / (scaledRate * 60u);
-    const quint64 r2 = r1 % (scaledRate * 60u);
-    const quint64 seconds = r2 / scaledRate;
-    const quint64 frames = (r2 % scaledRate) / 10000u;
-
-    QChar buffer[4 * 20 + 3];
-    QChar* out = writePadded(buffer, hours);
-    *out++ = QLatin1Char(':');
-    out = writePadded(out, minutes);
-    *out++ = QLatin1Char(':');
-    out = writePadded(out, seconds);
-    *out++ = QLatin1Char(':');
-    out = writePadded(out, frames);
-    return QString(buffer, int(out - buffer));
-}
-
-}
 
 MvTimelineRulerPresenterPrivate::MvTimelineRulerPresenterPrivate(
     MvTimelineRulerPresenter* q, MvTimelinePresenter* timelinePresenter)
@@ -194,7 +152,7 @@ void MvTimelineRulerPresenterPrivate::paint(QWidget* widget)
     if (!widget || !ruler)
         return;
     QPainter painter(widget);
-    MvRulerPainter::paint(painter, widget->rect(), widget->palette().brush(QPalette::Window), ruler, layout);
+    MvRulerPainter::paint(painter, widget->rect(), widget->palette().brush(QPalette::Window), ruler, paintCache);
 }
 
 MvTimelineRulerPresenter::MvTimelineRulerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
@@ -302,17 +260,12 @@ void MvTimelineRulerPresenter::paint(QWidget* widget)
 
 QString MvTimelineRulerPresenter::formatTimecode(int frame, int numerator, int denominator)
 {
-    if (numerator <= 0 || denominator <= 0)
-        return QString();
-    return formatTimecode(frame, float(double(numerator) / double(denominator)));
+    return MvTimeCode::format(frame, numerator, denominator);
 }
 
 QString MvTimelineRulerPresenter::formatTimecode(int frame, float fps)
 {
-    // No time code without a rate that a clock can count in.
-    if (!(fps >= 0.0001f && fps <= 1.0e9f))
-        return QString();
-    return formatScaled(frame, quint64(fps * 10000.0f));
+    return MvTimeCode::format(frame, fps);
 }
 
 IMvTimelineRuler* MvTimelineRulerPresenter::ruler() const

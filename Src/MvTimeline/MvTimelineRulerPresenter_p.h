@@ -2,7 +2,7 @@
 
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
-#include "MvRulerTickLayout_p.h"
+#include "MvRulerPainter_p.h"
 #include "MvTimelineRulerPresenter.h"
 
 class MvTimelineRulerPresenterPrivate : public IMvTimelineRulerEventObserover, public IMvPlayheadEventObserver
@@ -36,5 +36,5 @@ public:
     MvTimelineRulerPresenter* q_ptr;
     IMvTimelineRuler* ruler = nullptr;
     IMvTimelinePlayhead* playhead = nullptr;
-    MvRulerLayout layout; // reused by every paint
+    MvRulerPaintCache paintCache; // kept from paint to paint
 };
