@@ -40,7 +40,7 @@ IMvEffectContainer* targetFor(IMvClip* clip, bool audio)
 void MvTimelinePresenter::addEffectMedia(IMvClip* clip, IMvAbstractMediaItem* item)
 {
     Q_D(MvTimelinePresenter);
-    d->addEffectMedias({ clip }, item);
+    d->addEffectMedia(clip, item);
 }
 
 void MvTimelinePresenter::addEffectMedias(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item)
@@ -77,6 +77,11 @@ bool MvTimelinePresenter::canPasteEffect() const
 {
     Q_D(const MvTimelinePresenter);
     return d->canPasteEffect();
+}
+
+void MvTimelinePresenterPrivate::addEffectMedia(IMvClip* clip, IMvAbstractMediaItem* item)
+{
+    addEffectMedias({ clip }, item);
 }
 
 void MvTimelinePresenterPrivate::addEffectMedias(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item)

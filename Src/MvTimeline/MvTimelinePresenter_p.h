@@ -108,6 +108,7 @@ public:
     void showRepeatFrame();
 
     // Effects (MvTimelinePresenterEffects.cpp).
+    void addEffectMedia(IMvClip* clip, IMvAbstractMediaItem* item);
     void addEffectMedias(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item);
     void copyEffect();
     void pasteEffect();
