@@ -128,7 +128,7 @@ void MvDemoTrackPainter::effectBadge(IMvClip* item, const QRect& rect)
     const int count = effects ? effects->count() : 0;
     if (count == 0)
         return;
-    // "fx" and how many, on a sound-green badge when one of them is an audio effect.
+    // "fx" and how many, on an amber badge when one of them is an audio effect (sound clips are green).
     const QString text = count > 1 ? QStringLiteral("fx %1").arg(count) : QStringLiteral("fx");
     const int width = m_painter.fontMetrics().horizontalAdvance(text) + 8;
     const QRect badge(rect.right() - width - 3, rect.top() + 3, width, 14);
@@ -137,7 +137,7 @@ void MvDemoTrackPainter::effectBadge(IMvClip* item, const QRect& rect)
     m_painter.save();
     m_painter.setRenderHint(QPainter::Antialiasing, true);
     m_painter.setPen(Qt::NoPen);
-    m_painter.setBrush(effects->hasAudioEffect() ? QColor(0x2E, 0x8B, 0x57) : QColor(0x6A, 0x3F, 0xB5));
+    m_painter.setBrush(effects->hasAudioEffect() ? QColor(0xC7, 0x6B, 0x12) : QColor(0x6A, 0x3F, 0xB5));
     m_painter.drawRoundedRect(badge, 4, 4);
     m_painter.setPen(Qt::white);
     m_painter.drawText(badge, Qt::AlignCenter, text);

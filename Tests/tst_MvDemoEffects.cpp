@@ -111,6 +111,7 @@ private Q_SLOTS:
     void transitionDroppedOnACutWarnsOncePerProject();
     void transitionDroppedOverAnotherReplacesIt();
     void effectDroppedOnAClip();
+    void clipsWithEffectsWearABadge();
     void foreignDropsAreLeftAlone();
     void effectCommandsFollowThePresenter();
     void audioEffectQuestionIsAnswered();
@@ -226,6 +227,29 @@ void tst_MvDemoEffects::effectDroppedOnAClip()
     const int steps = demo.undoCount();
     QVERIFY(!demo.drop(MvDemoEffectsDock::MimeType, QStringLiteral("Blur"), QPoint(2, demo.area()->height() - 2)));
     QCOMPARE(demo.undoCount(), steps);
+}
+
+void tst_MvDemoEffects::clipsWithEffectsWearABadge()
+{
+    Demo demo;
+    // Inside the badge's top right corner, clear of its rounding and of its text.
+    const auto badgePixel = [&demo](const QString& name) {
+        const IMvClip* c = demo.clip(name);
+        const QRect rect = demo.area()->clipRect(c, c->trackIndex());
+        return demo.area()->grab().toImage().pixelColor(rect.right() - 6, rect.top() + 5);
+    };
+    const QColor videoBadge(0x6A, 0x3F, 0xB5);
+    const QColor soundBadge(0xC7, 0x6B, 0x12);
+    QVERIFY(badgePixel(QStringLiteral("Logo")) != videoBadge);
+    QVERIFY(demo.drop(MvDemoEffectsDock::MimeType, QStringLiteral("Vignette"), demo.on(QStringLiteral("Logo"), 0.5)));
+    QCOMPARE(badgePixel(QStringLiteral("Logo")), videoBadge);
+    QVERIFY(badgePixel(QStringLiteral("Theme")) != soundBadge);
+    QVERIFY(demo.drop(MvDemoEffectsDock::MimeType, QStringLiteral("Echo"), demo.on(QStringLiteral("Theme"), 0.3)));
+    QCOMPARE(badgePixel(QStringLiteral("Theme")), soundBadge);
+    // Undone, the badge goes with the effect.
+    QVERIFY(demo.window.timeline()->undoRedoService()->undo());
+    demo.area()->update();
+    QVERIFY(badgePixel(QStringLiteral("Theme")) != soundBadge);
 }
 
 void tst_MvDemoEffects::foreignDropsAreLeftAlone()
