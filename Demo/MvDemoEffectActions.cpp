@@ -14,6 +14,7 @@
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvMemoryTransitionItems.h"
 #include "Memory/MvSampleProject.h"
+#include "MvClipEffectHelper.h"
 #include "MvClipTransitionHelper.h"
 #include "MvDemoEffectDocks.h"
 #include "MvDemoEffectDrops.h"
@@ -43,6 +44,28 @@ MvDemoWindow::Command leavesStep(IMvUndoRedoService* undo, std::function<void()>
         run();
         return undo->undoCount() != before;
     };
+}
+
+// Why none of the clips can take the effect; empty when one of them can (what is left then is the
+// user's own answer to the audio-effect question, which needs no notice).
+QString effectRefusal(const QList<IMvClip*>& clips, const IMvAbstractMediaItem* item)
+{
+    if (clips.isEmpty())
+        return MvDemoWindow::tr("Select the clips first.");
+    if (!item)
+        return MvDemoWindow::tr("Choose an effect in the Effects panel first.");
+    const bool audio = item->mediaType() == MediaType_AudioEffect;
+    const bool taken = std::any_of(clips.cbegin(), clips.cend(), [audio](IMvClip* clip) {
+        return audio ? MvClipEffectHelper::canAddAudioEffect(clip) : MvClipEffectHelper::canAddVideoEffect(clip);
+    });
+    if (taken)
+        return QString();
+    return audio
+        ? MvDemoWindow::tr("\u201c%1\u201d is a sound effect: it needs a clip with sound on an unlocked track.")
+              .arg(item->name())
+        : MvDemoWindow::tr("\u201c%1\u201d changes the picture: it needs a clip with a picture of its own on "
+                           "an unlocked track.")
+              .arg(item->name());
 }
 
 QStringList namesOf(const QList<IMvAbstractMediaItem*>& items)
@@ -78,11 +101,27 @@ void MvDemoWindow::buildEffectPanels()
     connect(m_effectDrops, &MvDemoEffectDrops::transitionDropped, this, &MvDemoWindow::dropTransition);
     connect(m_effectDrops, &MvDemoEffectDrops::effectDropped, this, [this](IMvClip* clip, MvMemoryMediaItem* item) {
         appendJournal(tr("drop: effect \u201c%1\u201d on \u201c%2\u201d").arg(item->name(), clip->name()));
-        m_presenter->addEffectMedia(clip, item);
+        applyEffect({ clip }, item);
         viewsChanged();
     });
     m_scene->addMessageHandler(
         [this](MvMessage* message, QString* detail) { return describeEffectMessage(message, detail); });
+}
+
+bool MvDemoWindow::applyEffect(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item)
+{
+    // Read before: the presenter says nothing of a refusal, and afterwards the clips have changed.
+    const QString reason = effectRefusal(clips, item);
+    IMvUndoRedoService* undo = m_timeline->undoRedoService();
+    const int before = undo->undoCount();
+    if (clips.size() == 1)
+        m_presenter->addEffectMedia(clips.first(), item);
+    else
+        m_presenter->addEffectMedias(clips, item);
+    const bool applied = undo->undoCount() != before;
+    if (!applied && !reason.isEmpty())
+        tellRefusal(reason);
+    return applied;
 }
 
 void MvDemoWindow::dropTransition(IMvClip* clip, int transitionType, MvMemoryMediaItem* item)
@@ -128,9 +167,11 @@ void MvDemoWindow::buildEffectMenu()
                 selection->selectedClips(), m_transitionsDock->items(), m_transitionsDock->length());
         }));
     addCommand(menu, QStringLiteral("apply-effect"), tr("Apply &Effect to Selection"),
-        QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_E), leavesStep(undo, [this, p, selection] {
-            p->addEffectMedias(selection->selectedClips(), m_effectsDock->currentItem());
-        }));
+        QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_E), [this, selection] {
+            // It tells its own refusals: they depend on the effect chosen, not only on the selection.
+            applyEffect(selection->selectedClips(), m_effectsDock->currentItem());
+            return true;
+        });
     menu->addSeparator();
     addCommand(
         menu, QStringLiteral("copy-effects"), tr("&Copy Effects"), QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_C), [p] {

@@ -13,6 +13,7 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QPlainTextEdit;
+class IMvAbstractMediaItem;
 class IMvClip;
 class IMvTrack;
 class MvMemoryMediaItem;
@@ -126,6 +127,8 @@ private:
     void buildEffectMenu();
     void refreshEffectActions();
     void dropTransition(IMvClip* clip, int transitionType, MvMemoryMediaItem* item);
+    // Applies the effect to the clips; false, and the user told why, when no clip took it.
+    bool applyEffect(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item);
     bool describeEffectMessage(MvMessage* message, QString* detail);
     void refreshEditActions();
     QAction* addCommand(

@@ -116,6 +116,8 @@ private Q_SLOTS:
     void effectCommandsFollowThePresenter();
     void audioEffectQuestionIsAnswered();
     void applyToSelectionTellsRefusals();
+    void effectsRefusedByTheClipsAreExplained_data();
+    void effectsRefusedByTheClipsAreExplained();
 };
 
 void tst_MvDemoEffects::cleanup()
@@ -329,6 +331,44 @@ void tst_MvDemoEffects::applyToSelectionTellsRefusals()
     demo.window.action(QStringLiteral("apply-transition"))->trigger();
     QCOMPARE(demo.transitionsOf(QStringLiteral("A day by the sea")), QStringLiteral("Dissolve at 1"));
     QCOMPARE(demo.undoCount(), 1);
+}
+
+void tst_MvDemoEffects::effectsRefusedByTheClipsAreExplained_data()
+{
+    QTest::addColumn<bool>("byDrop");
+    QTest::addColumn<QString>("clip");
+    QTest::addColumn<int>("shelfRow");
+    QTest::addColumn<QString>("notice");
+    const QString picture = QStringLiteral(
+        "\u201cBlur\u201d changes the picture: it needs a clip with a picture of its own on an unlocked track.");
+    const QString sound
+        = QStringLiteral("\u201cEcho\u201d is a sound effect: it needs a clip with sound on an unlocked track.");
+    QTest::newRow("a picture effect applied to music") << false << QStringLiteral("Theme") << 0 << picture;
+    QTest::newRow("a sound effect applied to a still") << false << QStringLiteral("Old map") << 3 << sound;
+    QTest::newRow("a picture effect dropped on music") << true << QStringLiteral("Theme") << 0 << picture;
+    QTest::newRow("a sound effect dropped on a still") << true << QStringLiteral("Old map") << 3 << sound;
+}
+
+void tst_MvDemoEffects::effectsRefusedByTheClipsAreExplained()
+{
+    QFETCH(bool, byDrop);
+    QFETCH(QString, clip);
+    QFETCH(int, shelfRow);
+    QFETCH(QString, notice);
+    Demo demo;
+    MvDemoItemShelf* shelf = demo.window.effectsDock()->shelf();
+    shelf->setCurrentRow(shelfRow);
+    const QString before = demo.effectsOf(clip);
+    if (byDrop) {
+        QVERIFY(demo.drop(
+            MvDemoEffectsDock::MimeType, shelf->currentItem()->data(Qt::UserRole).toString(), demo.on(clip, 0.5)));
+    } else {
+        demo.window.timeline()->selection()->select({ demo.clip(clip) });
+        demo.window.action(QStringLiteral("apply-effect"))->trigger();
+    }
+    QCOMPARE(demo.notice(), notice);
+    QCOMPARE(demo.effectsOf(clip), before);
+    QCOMPARE(demo.undoCount(), 0);
 }
 
 QTEST_MAIN(tst_MvDemoEffects)
