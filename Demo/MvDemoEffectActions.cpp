@@ -197,8 +197,8 @@ void MvDemoWindow::refreshEffectActions()
     // Copy and delete follow the presenter's question; delete also takes several clips.
     enable("copy-effects", m_presenter->hasEffect());
     enable("paste-effects", hasClips && m_presenter->canPasteEffect());
-    enable("delete-effects",
-        MvDemoRefusals(m_timeline.data(), m_presenter).reason(QStringLiteral("delete-effects")).isEmpty());
+    enable(
+        "delete-effects", MvDemoRefusals(m_timeline, m_presenter).reason(QStringLiteral("delete-effects")).isEmpty());
     enable("apply-effect", hasClips);
     enable("random-transitions", hasClips);
 }

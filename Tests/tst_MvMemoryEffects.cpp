@@ -277,6 +277,20 @@ void tst_MvMemoryEffects::effectsAndUserDataTravelWithTheClip()
     QCOMPARE(p.timeline.stateText(), before);
     QVERIFY(p.timeline.undoRedoService()->redo());
     QCOMPARE(p.timeline.checkInvariants(), QString());
+
+    // Through the clipboard, a copy keeps them too; undoing the paste takes them away with it.
+    const QString beforePaste = p.timeline.stateText();
+    IMvClipEditService* edit = p.timeline.editService();
+    edit->copy({ piece });
+    QList<IMvClip*> pasted;
+    edit->paste(500, -1, pasted, 0, 3);
+    QCOMPARE(pasted.size(), 1);
+    auto* copy = static_cast<MvMemoryClip*>(pasted.first());
+    QCOMPARE(p.effectsOf(copy), QStringLiteral("Blur | Echo"));
+    QCOMPARE(copy->userData(UserDataKey_EffectData), QStringLiteral("blur=4"));
+    QCOMPARE(p.timeline.checkInvariants(), QString());
+    QVERIFY(p.timeline.undoRedoService()->undo());
+    QCOMPARE(p.timeline.stateText(), beforePaste);
 }
 
 void tst_MvMemoryEffects::userDataIsAnUndoableValue()

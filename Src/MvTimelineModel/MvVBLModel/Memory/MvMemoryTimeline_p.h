@@ -84,6 +84,9 @@ public:
     MvMemoryTrack* rowForMedia(MVVBLMODEL::MvClipType type, int asked, qint64 start, qint64 end, int policy);
     MvMemoryClip* insertMediaClip(const MvTimelineAddMediaParam& param, int index, int policy, unsigned* flags);
     QString clipId(const MvMemoryClip* clip) const;
+    // Track commands and audio detach (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
+    MvMemoryTrack* insertTrack(MVVBLMODEL::MvTrackType type, int index);
+    MvMemoryTrack* soundRowFor(const MvMemoryClip* clip, int trackIndex);
     // Transitions and effects (MvMemoryTransitionItems.cpp).
     void checkTransitionsAndEffects(QStringList& problems) const;
     QString transitionsAndEffectsText(const MvMemoryClip* clip) const;
