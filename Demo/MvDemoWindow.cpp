@@ -8,6 +8,7 @@
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
 #include "Memory/MvMemoryMediaLibrary.h"
+#include "Memory/MvMemoryProjectManager.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvSampleProject.h"
 #include "MvDemoJournal.h"
@@ -69,6 +70,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     buildJournal();
     buildPanels();
     buildMediaPanel(interactive);
+    buildEffectPanels();
     buildMenus();
     connectViews();
     qApp->installEventFilter(new MvDemoMarkerDialogStyle(this));
@@ -368,6 +370,7 @@ void MvDemoWindow::refreshActions()
     refreshEditActions();
     refreshPanelActions();
     refreshClipboardActions();
+    refreshEffectActions();
     refreshStatus();
 }
 
