@@ -612,7 +612,8 @@ const QVector<MvRandomCommand>& mvRandomCommands()
 {
     static const QVector<MvRandomCommand> table = focusCommands() + viewCommands() + clipEditCommands() + moveCommands()
         + itemCommands() + keyFrameCommands() + playheadCommands() + panelCommands() + mvMediaCommands()
-        + clipboardCommands() + trackCommands() + hostRequestCommands() + undoCommands();
+        + mvTransitionAndEffectCommands() + clipboardCommands() + trackCommands() + hostRequestCommands()
+        + undoCommands();
     return table;
 }
 

@@ -1,8 +1,11 @@
 #include "MvRandomMedia.h"
 
+#include "IMvSelection.h"
 #include "IMvTimelinePlayhead.h"
+#include "Memory/MvMemoryEffects.h"
 #include "Memory/MvMemoryMediaItem.h"
 #include "Memory/MvMemoryMediaLibrary.h"
+#include "Memory/MvMemoryTransitionItems.h"
 #include "MvModelMessages.h"
 #include "MvRandomWorld.h"
 #include "MvTimelineAddMediaParam.h"
@@ -129,6 +132,96 @@ QString addMedias(MvRandomWorld& world)
     const QList<IMvClip*> clips = world.presenter().addMedias(param, policy);
     return what + QStringLiteral(" -> ") + MvRandomWorld::namesOf(clips);
 }
+
+// A library item of the kind asked for mostly, any item (or null) now and then.
+template <typename Kind> IMvAbstractMediaItem* itemOf(MvRandomWorld& world)
+{
+    QList<MvMemoryMediaItem*> matching;
+    const QList<MvMemoryMediaItem*> library = world.media().items();
+    for (MvMemoryMediaItem* item : library) {
+        if (dynamic_cast<Kind*>(item))
+            matching.append(item);
+    }
+    if (world.chance(3))
+        return nullptr;
+    if (matching.isEmpty() || world.chance(10))
+        return library.at(world.below(library.size()));
+    return matching.at(world.below(matching.size()));
+}
+
+// The clips a transition or an effect goes on: the selection mostly.
+QList<IMvClip*> targetClips(MvRandomWorld& world)
+{
+    return world.chance(70) ? world.timeline().selection()->selectedClips() : world.clips();
+}
+
+qint64 transitionLength(MvRandomWorld& world)
+{
+    return world.chance(5) ? (world.chance(50) ? std::numeric_limits<qint64>::max() : -1) : qint64(world.below(90));
+}
+
+QString addTransitions(MvRandomWorld& world)
+{
+    const QList<IMvClip*> clips = targetClips(world);
+    const qint64 length = transitionLength(world);
+    if (world.chance(30)) {
+        QList<IMvAbstractMediaItem*> items;
+        for (int i = 1 + world.below(3); i > 0; --i)
+            items.append(itemOf<MvMemoryTransitionMediaItem>(world));
+        world.presenter().randomAddTransitionMedia(clips, items, length);
+        return QStringLiteral("randomAddTransitionMedia(%1, %2, %3)")
+            .arg(MvRandomWorld::namesOf(clips), itemNames(items))
+            .arg(length);
+    }
+    IMvAbstractMediaItem* item = itemOf<MvMemoryTransitionMediaItem>(world);
+    if (world.chance(30)) {
+        IMvClip* clip = clips.value(0);
+        const MvTransitionType type = world.chance(50) ? TransitionType_Start : TransitionType_End;
+        world.presenter().addTransitionMedia(clip, dynamic_cast<IMvTransitionMediaItem*>(item), length, type);
+        return QStringLiteral("addTransitionMedia(%1, %2, %3, type %4)")
+            .arg(MvRandomWorld::nameOf(clip), itemName(item))
+            .arg(length)
+            .arg(type);
+    }
+    world.presenter().addTransitionMedia(clips, item, length);
+    return QStringLiteral("addTransitionMedia(%1, %2, %3)")
+        .arg(MvRandomWorld::namesOf(clips), itemName(item))
+        .arg(length);
+}
+
+QString addEffects(MvRandomWorld& world)
+{
+    IMvAbstractMediaItem* item = itemOf<MvMemoryEffectMediaItem>(world);
+    if (world.chance(50)) {
+        IMvClip* clip = world.focusedClip();
+        world.presenter().addEffectMedia(clip, item);
+        return QStringLiteral("addEffectMedia(%1, %2)").arg(MvRandomWorld::nameOf(clip), itemName(item));
+    }
+    const QList<IMvClip*> clips = targetClips(world);
+    world.presenter().addEffectMedias(clips, item);
+    return QStringLiteral("addEffectMedias(%1, %2)").arg(MvRandomWorld::namesOf(clips), itemName(item));
+}
+
+QString onSelection(MvRandomWorld& world, const char* name, void (MvTimelinePresenter::*command)())
+{
+    const QString what = QLatin1String(name) + QStringLiteral("() on ") + world.selectionText();
+    (world.presenter().*command)();
+    return what;
+}
+}
+
+QVector<MvRandomCommand> mvTransitionAndEffectCommands()
+{
+    return {
+        { QStringLiteral("addTransitionMedia"), 3, addTransitions },
+        { QStringLiteral("addEffectMedia"), 3, addEffects },
+        { QStringLiteral("copyEffect"), 1,
+            [](MvRandomWorld& w) { return onSelection(w, "copyEffect", &MvTimelinePresenter::copyEffect); } },
+        { QStringLiteral("pasteEffect"), 2,
+            [](MvRandomWorld& w) { return onSelection(w, "pasteEffect", &MvTimelinePresenter::pasteEffect); } },
+        { QStringLiteral("deleteEffect"), 1,
+            [](MvRandomWorld& w) { return onSelection(w, "deleteEffect", &MvTimelinePresenter::deleteEffect); } },
+    };
 }
 
 QVector<MvRandomCommand> mvMediaCommands()
