@@ -2,6 +2,7 @@
 
 #include "MvMarkerPresenter.h"
 #include "MvSkinStyle.h"
+#include "MvTimelineAccessible_p.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -30,10 +31,10 @@ constexpr int kPaletteNameCount = int(sizeof(kPaletteNames) / sizeof(kPaletteNam
 
 void announce(QObject* object, QAccessible::Event kind)
 {
-    if (!QAccessible::isActive() || !object)
+    if (!object || !MvAccessibleAnnouncer::isHeard())
         return;
     QAccessibleEvent event(object, kind);
-    QAccessible::updateAccessibility(&event);
+    MvAccessibleAnnouncer::send(&event);
 }
 }
 
@@ -121,10 +122,7 @@ void MvMarkerEditColor::setSelectedIndex(int index)
         m_currentIndex = checked;
     update();
     announce(m_cells.value(checked), QAccessible::Selection);
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(this, colorName(checked));
-        QAccessible::updateAccessibility(&event);
-    }
+    MvAccessibleAnnouncer::valueChanged(this);
     Q_EMIT selectedIndexChanged(checked);
 }
 
@@ -139,7 +137,10 @@ void MvMarkerEditColor::setCurrentIndex(int index)
 {
     if (m_cells.isEmpty())
         return;
-    m_currentIndex = std::clamp(index, 0, int(m_cells.size()) - 1);
+    const int clamped = std::clamp(index, 0, int(m_cells.size()) - 1);
+    if (clamped == currentIndex() && m_currentIndex >= 0)
+        return;
+    m_currentIndex = clamped;
     update();
     if (hasFocus())
         announce(m_cells.at(m_currentIndex), QAccessible::Focus);
