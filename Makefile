@@ -3,7 +3,7 @@
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps configure build demo test bench asan release install clean format format-check tidy
+.PHONY: all deps configure build demo test bench asan tsan release install clean format format-check tidy
 
 all: build
 
@@ -31,6 +31,13 @@ asan: deps
 	@cmake --preset asan > /dev/null
 	@cmake --build build/asan -j $(JOBS)
 	@cd build/asan && LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp ctest --output-on-failure -j $(JOBS)
+
+# Qt is not built with the thread sanitizer: tools/tsan.supp names the Qt internals it cannot see
+# into, never this project's code.
+tsan: deps
+	@cmake --preset tsan > /dev/null
+	@cmake --build build/tsan -j $(JOBS)
+	@cd build/tsan && TSAN_OPTIONS="suppressions=$(CURDIR)/tools/tsan.supp second_deadlock_stack=1" ctest --output-on-failure -j $(JOBS)
 
 install: build
 	@cmake --install build/dev --prefix $(or $(PREFIX),build/install)

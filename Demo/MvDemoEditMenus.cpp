@@ -84,6 +84,7 @@ void MvDemoWindow::buildMenus()
     buildViewMenu();
     buildTrackActions();
     buildPanelMenu();
+    buildMediaMenu();
 
     QMenu* playback = menuBar()->addMenu(tr("&Playback"));
     addCommand(playback, QStringLiteral("play"), tr("Play / Pause"), QKeySequence(Qt::Key_Space),

@@ -35,6 +35,12 @@ QString MvDemoJournalWords::message(int id)
         { MessageId::ShowPropertyPanel, QT_TR_NOOP("show the property panel") },
         { MessageId::MediaLibraryFindSimilar, QT_TR_NOOP("find similar resources in the media library") },
         { MessageId::MediaEditorSelectClip, QT_TR_NOOP("select clips in the media editor") },
+        { MessageId::DownloadMediaItems, QT_TR_NOOP("download media items") },
+        { MessageId::SelectStockResolution, QT_TR_NOOP("choose the resolution of stock items") },
+        { MessageId::SelectVCGResolution, QT_TR_NOOP("choose the resolution of a VCG item") },
+        { MessageId::MatchProjectSettings, QT_TR_NOOP("offer the media's settings to the project") },
+        { MessageId::AddMediaResponse, QT_TR_NOOP("media added") },
+        { MessageId::ScrollToTrack, QT_TR_NOOP("bring the new clips into view") },
     };
     const char* text = words.value(id);
     return text ? tr(text) : tr("message %1").arg(id);

@@ -12,6 +12,10 @@ public:
 
     void updateAction() override;
 
+    // A VCG item made ready for adding: its description downloaded, then its resolution chosen;
+    // empty when either was given up.
+    QList<IMvAbstractMediaItem*> readyVCGItem(IMvAbstractMediaItem* item);
+
 Q_SIGNALS:
     void actionsNeedRefresh();
 };

@@ -34,6 +34,10 @@ private:
     QList<Step> navigationSteps();
     // The property panels and the media library (MvDemoPanelActions.cpp).
     QList<Step> panelSteps();
+    // Adding the sample media (MvDemoMediaActions.cpp).
+    QList<Step> mediaSteps();
+    void doubleClickMedia(const QString& name);
+    void dropMedia(const QString& name, qint64 frame, int trackIndex);
     void pickFirstKeyFrame(bool audio);
     void trigger(const QString& actionName);
     IMvClip* clipNamed(const QString& name) const;

@@ -7,6 +7,7 @@
 #include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
+#include "Memory/MvMemoryMediaLibrary.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvSampleProject.h"
 #include "MvDemoJournal.h"
@@ -66,6 +67,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     buildLayout();
     buildJournal();
     buildPanels();
+    buildMediaPanel(interactive);
     buildMenus();
     connectViews();
     qApp->installEventFilter(new MvDemoMarkerDialogStyle(this));

@@ -13,7 +13,14 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QPlainTextEdit;
+class IMvClip;
+class IMvTrack;
+class MvMemoryMediaItem;
+class MvMemoryMediaLibrary;
 class MvMemoryTimeline;
+class MvDemoMediaDrop;
+class MvDemoMediaPanel;
+class MvDemoMediaScene;
 class MvDemoLibraryDock;
 class MvDemoLogRouter;
 class MvDemoMarkerPresenter;
@@ -62,6 +69,14 @@ public:
     // The host's panels the presenter asks for (MvDemoPanelActions.cpp).
     MvDemoPropertiesDock* propertiesDock() const { return m_propertiesDock; }
     MvDemoLibraryDock* libraryDock() const { return m_libraryDock; }
+    // The project's media and what adding it asks of the host (MvDemoMediaActions.cpp).
+    MvMemoryMediaLibrary* mediaLibrary() const { return m_mediaLibrary.data(); }
+    MvDemoMediaPanel* mediaPanel() const { return m_mediaPanel; }
+    MvDemoMediaScene* mediaScene() const { return m_mediaScene; }
+    MvDemoMediaDrop* mediaDrop() const { return m_mediaDrop; }
+    // Adds the item at a frame, on a row when one is given (-1: the timeline chooses); false
+    // when nothing was added, and the user is told why.
+    bool addMedia(MvMemoryMediaItem* item, qint64 frame, int trackIndex = -1);
 
     // Tells the user why a command did nothing. One place, so that the notice can change its look.
     void tellRefusal(const QString& text);
@@ -89,6 +104,13 @@ private:
     void buildPanels();
     void buildPanelMenu();
     void refreshPanelActions();
+    // The media panel, its drop target on the tracks and the media questions of the scene
+    // (MvDemoMediaActions.cpp).
+    void buildMediaPanel(bool interactive);
+    void buildMediaMenu();
+    void scrollToClips(const QList<IMvClip*>& clips);
+    void fitNewRows();
+    QString mediaRefusal(MvMemoryMediaItem* item) const;
     void refreshEditActions();
     QAction* addCommand(
         QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, Command command);
@@ -120,6 +142,11 @@ private:
     QDockWidget* m_journalDock = nullptr;
     MvDemoPropertiesDock* m_propertiesDock = nullptr;
     MvDemoLibraryDock* m_libraryDock = nullptr;
+    QScopedPointer<MvMemoryMediaLibrary> m_mediaLibrary;
+    MvDemoMediaPanel* m_mediaPanel = nullptr;
+    MvDemoMediaScene* m_mediaScene = nullptr;
+    MvDemoMediaDrop* m_mediaDrop = nullptr;
+    QList<IMvTrack*> m_rowsBeforeInsert; // while media is added: the rows it may add to
     QLabel* m_status = nullptr;
     QHash<QString, QAction*> m_actions;
     QStringList m_journal;

@@ -11,6 +11,7 @@
 #include "MvKeyFramePresenter.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
+#include "MvTaskRunner_p.h"
 #include "MvTimelineVirtualPlayheadPresenter.h"
 
 #include <new>
@@ -29,7 +30,10 @@ void MvTimelinePresenter::MvTimelineViewConfig::clearFixedTrack()
 }
 
 MvTimelinePresenterPrivate::MvTimelinePresenterPrivate(MvTimelinePresenter* q, IMvTimeline* timeline)
-    : q_ptr(q), timeline(timeline), config(new MvTimelinePresenter::MvTimelineViewConfig)
+    : q_ptr(q)
+    , timeline(timeline)
+    , config(new MvTimelinePresenter::MvTimelineViewConfig)
+    , taskRunner(new MvTaskRunner(q))
 {
 }
 

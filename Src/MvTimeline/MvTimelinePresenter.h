@@ -10,8 +10,13 @@
 #include <QScopedPointer>
 #include <QString>
 
+#include <functional>
+
+class IMvAbstractMediaItem;
 class IMvClip;
 class IMvTimeline;
+class QDialog;
+struct MvTimelineAddMediaParam;
 class IMvTrack;
 class MvZoomSlider;
 class MvKeyFramePresenter;
@@ -133,6 +138,10 @@ public:
     // Raises a toast with an already translated text over the view (ShowCustomToast).
     void showToast(QString text);
 
+    // Media insertion: prepares the request's items (download, resolution, zero length), offers
+    // the project-settings match, inserts them with the policy and tells the scene; returns the
+    // clips created (empty on any failure). The caller's request is left as it is.
+    QList<IMvClip*> addMedias(const MvTimelineAddMediaParam& param, int policy);
     // Library resources: asks the media library for resources like the one the single selected
     // item was made from (MvMediaLibraryFindSimilarMessage), after hiding the property panel.
     bool canSearchSimilarResource();
@@ -176,6 +185,32 @@ protected:
 
     // The two refusals of a compound clip: inserted into itself, or taken from another project.
     void showTimelineNestToast(bool compoundItself);
+
+    // Media insertion, the steps of addMedias that hosts and the transition and effect commands
+    // reuse. Each asks the scene what needs a person and goes on with what the message carries
+    // back. An item list is a QList of IMvAbstractMediaItem pointers throughout.
+    // True when the item is left after the preparation chain.
+    bool prepareAddMedia(IMvAbstractMediaItem* item);
+    // Pause with sync, download, resolution choice, zero-length filter; the items that may be
+    // inserted. handled may be null.
+    QList<IMvAbstractMediaItem*> prepareAddMedias(const QList<IMvAbstractMediaItem*>& items, bool* handled);
+    // When any item needs a download, only the items downloaded go on.
+    QList<IMvAbstractMediaItem*> downloadMediaItems(const QList<IMvAbstractMediaItem*>& items);
+    // When any stock item has a resolution to choose, only the items the scene leaves go on.
+    QList<IMvAbstractMediaItem*> selectMediaItems(const QList<IMvAbstractMediaItem*>& items);
+    QList<IMvAbstractMediaItem*> selectVCGMediaItems(const QList<IMvAbstractMediaItem*>& items);
+    // On the first item only: download its description, or choose among its resolutions. flag,
+    // when given, tells whether a download was asked for.
+    QList<IMvAbstractMediaItem*> downloadAndSelectVCGItems(const QList<IMvAbstractMediaItem*>& items, bool* flag);
+    // Offers the scene the first item whose settings the project may adopt.
+    void checkMatchProjectSettings(const QList<IMvAbstractMediaItem*>& items);
+    // Runs the task on a worker thread while a wait dialog spins the GUI thread; returns when the
+    // task has finished.
+    void executeTaskWithLoadingIndicator(const std::function<void()>& task);
+    // A new wait dialog centred over the view (the caller owns it).
+    QDialog* getAddLoadingWgt();
+    void notifyAddMediaSucceed(const QList<IMvAbstractMediaItem*>& items, void* context, int value, bool send);
+    void notifyTimelineScrollToTrack(const QList<IMvClip*>& clips);
 
     void stopMediaPlayer();
     void seekAfterPause();

@@ -6,7 +6,11 @@
 #include <QHash>
 #include <QList>
 
+#include <functional>
+#include <memory>
+
 class IMvTrack;
+class MvTaskRunner;
 class MvTimelineVirtualPlayheadPresenter;
 class MvKeyFramePresenter;
 
@@ -30,6 +34,9 @@ public:
     QHash<MVVBLMODEL::MvClipType, bool> copiedClipTypes;
     MvTimelinePresenter::MvTimelineModeType modeType = MvTimelinePresenter::NormalMode;
     bool updateActionEnabled = true;
+    // Runs the long parts of a media insertion on a worker (MvTaskRunner_p.h); a Qt child of the
+    // presenter as well, where tests find it.
+    std::unique_ptr<MvTaskRunner> taskRunner;
 
     // Frame (MvTimelinePresenter.cpp).
     bool isVirtualPlayheadOpen() const;
@@ -73,6 +80,22 @@ public:
 
     // Toasts (MvTimelinePresenterToasts.cpp).
     void showToast(const QString& text);
+
+    // Media insertion (MvTimelinePresenterMediaInsertion.cpp).
+    QList<IMvClip*> addMedias(const MvTimelineAddMediaParam& param, int policy);
+    QList<IMvClip*> insertPrepared(const MvTimelineAddMediaParam& request, int policy);
+    void announceInsertion(const QList<IMvAbstractMediaItem*>& prepared, QList<IMvClip*>& clips, bool handled);
+    bool prepareAddMedia(IMvAbstractMediaItem* item);
+    QList<IMvAbstractMediaItem*> prepareAddMedias(const QList<IMvAbstractMediaItem*>& items, bool* handled);
+    QList<IMvAbstractMediaItem*> downloadMediaItems(const QList<IMvAbstractMediaItem*>& items);
+    QList<IMvAbstractMediaItem*> selectMediaItems(const QList<IMvAbstractMediaItem*>& items);
+    QList<IMvAbstractMediaItem*> selectVCGMediaItems(const QList<IMvAbstractMediaItem*>& items);
+    QList<IMvAbstractMediaItem*> downloadAndSelectVCGItems(const QList<IMvAbstractMediaItem*>& items, bool* flag);
+    void checkMatchProjectSettings(const QList<IMvAbstractMediaItem*>& items);
+    void executeTaskWithLoadingIndicator(const std::function<void()>& task);
+    QDialog* getAddLoadingWgt();
+    void notifyAddMediaSucceed(const QList<IMvAbstractMediaItem*>& items, void* context, int value, bool send);
+    void notifyTimelineScrollToTrack(const QList<IMvClip*>& clips);
 
     // Tracks (MvTimelinePresenterTracks.cpp).
     void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);

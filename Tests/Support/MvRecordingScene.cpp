@@ -1,5 +1,7 @@
 #include "MvRecordingScene.h"
 
+#include "IMvAbstractClip.h"
+#include "IMvAbstractMediaItem.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
 
@@ -10,11 +12,42 @@ void MvRecordingScene::receiveMessage(int id)
     record({ id, QStringLiteral("bare"), QVariant() });
 }
 
+namespace {
+QStringList namesOf(const QList<IMvAbstractMediaItem*>& items)
+{
+    QStringList names;
+    for (const IMvAbstractMediaItem* item : items)
+        names.append(item ? item->name() : QStringLiteral("null"));
+    return names;
+}
+
+QStringList namesOf(const QList<IMvClip*>& clips)
+{
+    QStringList names;
+    for (const IMvClip* clip : clips)
+        names.append(clip ? clip->name() : QStringLiteral("null"));
+    return names;
+}
+
+// What a media message carries as it was sent, before the scene answers.
+QVariant mediaPayload(const MvMessage* message)
+{
+    if (const auto* items = dynamic_cast<const MvMediaItemsMessage*>(message))
+        return namesOf(items->mediaItems());
+    if (const auto* match = dynamic_cast<const MvMatchProjMediaItemMessage*>(message))
+        return match->mediaItem() ? match->mediaItem()->name() : QStringLiteral("null");
+    if (const auto* scroll = dynamic_cast<const MvTimelineScrollToTrackMessage*>(message))
+        return namesOf(scroll->clips());
+    return QVariant();
+}
+}
+
 void MvRecordingScene::receiveMessage(MvMessage* message)
 {
+    const QVariant sent = mediaPayload(message);
     if (m_answers.contains(message->id()))
         m_answers.value(message->id())(message);
-    QVariant payload;
+    QVariant payload = sent;
     if (auto* data = dynamic_cast<MvDataMessage*>(message))
         payload = data->data();
     else if (auto* query = dynamic_cast<MvQueryMessage*>(message))

@@ -19,7 +19,9 @@ public:
     {
         int id = 0;
         QString type; // "bare" for a bare id, else the message's class name
-        QVariant payload; // data, answer or frame as the message carries it
+        // Data, answer or frame as the message carries it; for the media messages the names of the
+        // items or clips as they were sent, before the answer.
+        QVariant payload;
     };
 
     using Answer = std::function<void(MvMessage*)>;

@@ -38,7 +38,9 @@ private:
 class MvCustomEventListener;
 
 // Delivers custom events to the listeners registered for their name, in registration order,
-// until one consumes the event. GUI thread only.
+// until one consumes the event. Listeners are registered and removed on the GUI thread; an event
+// is delivered on the thread that sends it, which is a worker for the one event the timeline sends
+// while the GUI thread waits in a wait dialog (NotifyAddSharedClipsAssetsToProjectMedia).
 class MVCORE_EXPORT MvCustomEventDispatcher
 {
 public:

@@ -4,6 +4,7 @@
 #include "IMvKeyFrameSelector.h"
 
 #include <QList>
+#include <QMetaType>
 
 class IMvClip;
 class IMvTimeline;
@@ -87,3 +88,5 @@ public:
     // under a name); a clip on a track is never secondary.
     virtual bool isSecondary() const = 0;
 };
+
+Q_DECLARE_METATYPE(IMvClip*)

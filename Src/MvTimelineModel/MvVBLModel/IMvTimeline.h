@@ -3,7 +3,10 @@
 #include "MvVBLModelGlobal.h"
 
 #include <QList>
+#include <QMetaType>
 
+class IMvAbstractMediaItem;
+struct MvTimelineAddMediaParam;
 class IMvClip;
 class IMvTrack;
 class IMvSelection;
@@ -62,4 +65,18 @@ public:
     // The virtual playhead is offered only where the timeline allows it.
     virtual bool virtualPlayheadAllowed() const = 0;
     virtual void prepareVirtualPlayhead() = 0;
+
+    // Media insertion.
+    // The project's frame rate (frames per second: numerator over denominator).
+    virtual MVVBLMODEL::MvRational frameRate() const = 0;
+    // Puts one clip per media item on the timeline at the start frame, as one undo step; fills
+    // clips with those created. Policy 1 gives every clip a new row; any other value lets the
+    // model choose the row. Compound items that cannot go here are left out and reported in
+    // the result's bits (MVVBLMODEL::AddMediaFlag_*). Safe from a worker thread while the GUI
+    // thread only runs an event loop: observers are still told on the GUI thread.
+    virtual unsigned addMedias(const MvTimelineAddMediaParam& param, QList<IMvClip*>& clips, int policy) = 0;
+    // Opens a clip for editing in place (subtitles: their text); index -1 is the whole clip.
+    virtual void activateClip(IMvClip* clip, int index) = 0;
 };
+
+Q_DECLARE_METATYPE(IMvTimeline*)

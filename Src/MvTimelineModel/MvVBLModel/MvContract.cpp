@@ -1,5 +1,6 @@
 // Out-of-line destructors of the contract's interfaces, so each has one home for its vtable.
 #include "IMvAbstractClip.h"
+#include "IMvAbstractMediaItem.h"
 #include "IMvClipEditService.h"
 #include "IMvClipItems.h"
 #include "IMvColorCompareService.h"
@@ -16,6 +17,11 @@
 #include "IMvUndoRedoService.h"
 
 IMvAbstractClip::~IMvAbstractClip() = default;
+IMvMediaInfo::~IMvMediaInfo() = default;
+IMvAbstractMediaItem::~IMvAbstractMediaItem() = default;
+IMvStockMediaItem::~IMvStockMediaItem() = default;
+IMvVCGMediaItem::~IMvVCGMediaItem() = default;
+IMvCompoundMediaItem::~IMvCompoundMediaItem() = default;
 IMvTransitionList::~IMvTransitionList() = default;
 IMvClipEditService::~IMvClipEditService() = default;
 IMvFreezeFrameList::~IMvFreezeFrameList() = default;

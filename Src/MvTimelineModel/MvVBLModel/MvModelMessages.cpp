@@ -28,6 +28,79 @@ const char* MvPropertyPanelShowMessage2::typeName() const
     return "MvPropertyPanelShowMessage2";
 }
 
+// ---- Media insertion
+
+MvMediaItemsMessage::MvMediaItemsMessage(int id)
+    : MvMessage(id)
+{
+}
+
+MvDownloadMediaItemMessage::MvDownloadMediaItemMessage()
+    : MvMediaItemsMessage(MVVBLMODEL::MessageId::DownloadMediaItems)
+{
+}
+
+const char* MvDownloadMediaItemMessage::typeName() const
+{
+    return "MvDownloadMediaItemMessage";
+}
+
+MvSelectResolutionMediaItemMessage::MvSelectResolutionMediaItemMessage()
+    : MvMediaItemsMessage(MVVBLMODEL::MessageId::SelectStockResolution)
+{
+}
+
+const char* MvSelectResolutionMediaItemMessage::typeName() const
+{
+    return "MvSelectResolutionMediaItemMessage";
+}
+
+MvVCGSelectResolutionMediaItemMessage::MvVCGSelectResolutionMediaItemMessage()
+    : MvMediaItemsMessage(MVVBLMODEL::MessageId::SelectVCGResolution)
+{
+}
+
+const char* MvVCGSelectResolutionMediaItemMessage::typeName() const
+{
+    return "MvVCGSelectResolutionMediaItemMessage";
+}
+
+MvMatchProjMediaItemMessage::MvMatchProjMediaItemMessage(IMvAbstractMediaItem* item)
+    : MvMessage(MVVBLMODEL::MessageId::MatchProjectSettings)
+    , m_item(item)
+{
+}
+
+const char* MvMatchProjMediaItemMessage::typeName() const
+{
+    return "MvMatchProjMediaItemMessage";
+}
+
+MvTimelineAddMediaResponseMessage::MvTimelineAddMediaResponseMessage(
+    const QList<IMvAbstractMediaItem*>& items, void* context, int value)
+    : MvMediaItemsMessage(MVVBLMODEL::MessageId::AddMediaResponse)
+    , m_context(context)
+    , m_value(value)
+{
+    setMediaItems(items);
+}
+
+const char* MvTimelineAddMediaResponseMessage::typeName() const
+{
+    return "MvTimelineAddMediaResponseMessage";
+}
+
+MvTimelineScrollToTrackMessage::MvTimelineScrollToTrackMessage(const QList<IMvClip*>& clips)
+    : MvMessage(MVVBLMODEL::MessageId::ScrollToTrack)
+    , m_clips(clips)
+{
+}
+
+const char* MvTimelineScrollToTrackMessage::typeName() const
+{
+    return "MvTimelineScrollToTrackMessage";
+}
+
 MvMediaLibraryFindSimilarMessage::MvMediaLibraryFindSimilarMessage(
     const ResourceInfoData& resource, const QString& title, MVVBLMODEL::MvMediaCategoryType category)
     : MvMessage(MVVBLMODEL::MessageId::MediaLibraryFindSimilar)

@@ -46,6 +46,93 @@ private:
     MVVBLMODEL::MvPropertyType m_panelType;
 };
 
+// ---- Media insertion. The scene answers each before the send returns, in the message itself.
+
+class IMvAbstractMediaItem;
+
+// A list of media items that the scene may change: what it leaves is the answer.
+class MVVBLMODEL_EXPORT MvMediaItemsMessage : public MvMessage
+{
+public:
+    QList<IMvAbstractMediaItem*> mediaItems() const { return m_items; }
+    void setMediaItems(const QList<IMvAbstractMediaItem*>& items) { m_items = items; }
+    void appendMediaItem(IMvAbstractMediaItem* item) { m_items.append(item); }
+
+protected:
+    explicit MvMediaItemsMessage(int id);
+
+private:
+    QList<IMvAbstractMediaItem*> m_items;
+};
+
+// Download these items; the scene returns when it is done (or the user gave up).
+class MVVBLMODEL_EXPORT MvDownloadMediaItemMessage : public MvMediaItemsMessage
+{
+public:
+    MvDownloadMediaItemMessage();
+    const char* typeName() const override;
+};
+
+// Let the user choose the resolution of these stock items; those declined are to be removed.
+class MVVBLMODEL_EXPORT MvSelectResolutionMediaItemMessage : public MvMediaItemsMessage
+{
+public:
+    MvSelectResolutionMediaItemMessage();
+    const char* typeName() const override;
+};
+
+// The same for VCG items.
+class MVVBLMODEL_EXPORT MvVCGSelectResolutionMediaItemMessage : public MvMediaItemsMessage
+{
+public:
+    MvVCGSelectResolutionMediaItemMessage();
+    const char* typeName() const override;
+};
+
+// The project may adopt this item's settings (frame rate, size); the scene asks the user.
+class MVVBLMODEL_EXPORT MvMatchProjMediaItemMessage : public MvMessage
+{
+public:
+    explicit MvMatchProjMediaItemMessage(IMvAbstractMediaItem* item = nullptr);
+
+    IMvAbstractMediaItem* mediaItem() const { return m_item; }
+    void setMediaItem(IMvAbstractMediaItem* item) { m_item = item; }
+    const char* typeName() const override;
+
+private:
+    IMvAbstractMediaItem* m_item;
+};
+
+// Media items were added: the items, the sender's context (the address of its list of created
+// clips, valid during the send) and a value of the sender's.
+class MVVBLMODEL_EXPORT MvTimelineAddMediaResponseMessage : public MvMediaItemsMessage
+{
+public:
+    MvTimelineAddMediaResponseMessage(const QList<IMvAbstractMediaItem*>& items = QList<IMvAbstractMediaItem*>(),
+        void* context = nullptr, int value = 0);
+
+    void* context() const { return m_context; }
+    int value() const { return m_value; }
+    const char* typeName() const override;
+
+private:
+    void* m_context;
+    int m_value;
+};
+
+// Scroll the track area so that these clips are in view.
+class MVVBLMODEL_EXPORT MvTimelineScrollToTrackMessage : public MvMessage
+{
+public:
+    explicit MvTimelineScrollToTrackMessage(const QList<IMvClip*>& clips = QList<IMvClip*>());
+
+    QList<IMvClip*> clips() const { return m_clips; }
+    const char* typeName() const override;
+
+private:
+    QList<IMvClip*> m_clips;
+};
+
 // Library resources and composed texts.
 
 // Asks the media library to show resources like the one an item was made from.

@@ -89,6 +89,44 @@ struct MvFrameRate
     }
 };
 
+// A ratio as the model keeps it (a project's frame rate: frames per second is numerator over
+// denominator). The ruler's MvFrameRate keeps its own int fields.
+struct MvRational
+{
+    qint64 numerator = 30;
+    qint64 denominator = 1;
+
+    bool operator==(const MvRational& other) const
+    {
+        return numerator == other.numerator && denominator == other.denominator;
+    }
+    bool operator!=(const MvRational& other) const { return !(*this == other); }
+};
+
+// Media insertion: what a media item of the project's library is, where it comes from, and what
+// the model's insertion reports.
+using MvMediaType = int;
+constexpr MvMediaType MediaType_Video = 1;
+constexpr MvMediaType MediaType_Audio = 2;
+constexpr MvMediaType MediaType_Image = 3;
+constexpr MvMediaType MediaType_Text = 4;
+constexpr MvMediaType MediaType_Subtitle = 5;
+constexpr MvMediaType MediaType_ScreenRecording = 16; // its length is known once the recording is closed
+constexpr MvMediaType MediaType_Compound = 30; // a timeline of its own, read on first use
+
+using MvMediaOrigin = int;
+constexpr MvMediaOrigin MediaOrigin_Local = 0;
+constexpr MvMediaOrigin MediaOrigin_Stock = 1;
+constexpr MvMediaOrigin MediaOrigin_VCG = 2;
+constexpr MvMediaOrigin MediaOrigin_Project = 5; // made from this project's own timelines: already at its settings
+
+// Bits of IMvMediaInfo::flags.
+constexpr quint32 MediaInfoFlag_OwnVideoSettings = 0x1; // a frame rate and size a project may adopt
+
+// Bits of the result of IMvTimeline::addMedias (and of a paste of compound clips).
+constexpr unsigned AddMediaFlag_ExternalCompound = 4; // a compound clip of another project was refused
+constexpr unsigned AddMediaFlag_NestsItself = 8; // a compound clip would have contained itself
+
 // One keyframed property of an effect.
 struct MvEffectPropertyBaseInfo
 {
@@ -125,6 +163,13 @@ constexpr int ShowAdvancedTitleEditor = 9020;    // MvDataMessage {true, arg}
 constexpr int EffectsDeleted = 9030;             // MvMessage
 constexpr int EffectsPasted = 9031;              // bare id
 constexpr int ShowPropertyPanel = 9040;        // MvPropertyPanelShowMessage2
+// Media insertion (MvModelMessages.h): each carries its media items or clips both ways.
+constexpr int DownloadMediaItems = 3003; // MvDownloadMediaItemMessage
+constexpr int SelectStockResolution = 3016; // MvSelectResolutionMediaItemMessage
+constexpr int SelectVCGResolution = 3017; // MvVCGSelectResolutionMediaItemMessage
+constexpr int MatchProjectSettings = 3018; // MvMatchProjMediaItemMessage
+constexpr int AddMediaResponse = 3019; // MvTimelineAddMediaResponseMessage
+constexpr int ScrollToTrack = 3020; // MvTimelineScrollToTrackMessage
 // Library resources and composed texts.
 constexpr int MediaLibraryFindSimilar = 9061;    // MvMediaLibraryFindSimilarMessage
 constexpr int MediaEditorSelectClip = 9062;      // MvMediaEditorSelectClipMessage

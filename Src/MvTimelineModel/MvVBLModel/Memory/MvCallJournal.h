@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <mutex>
+
 // One ordered list of what happened: model edits ("model:deleteClips") and, from a test's scene,
 // scene messages ("scene:7012"), so that orderings such as "the player is paused before the
 // model changes" can be checked in one place.
@@ -19,5 +21,6 @@ public:
     int indexOf(const QString& text) const;
 
 private:
+    mutable std::mutex m_mutex; // a worker's edit records too
     QStringList m_entries;
 };

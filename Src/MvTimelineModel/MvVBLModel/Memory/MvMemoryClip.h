@@ -9,6 +9,7 @@
 #include "MvMemoryResource.h"
 #include "MvMemoryUndoable.h"
 
+#include <QColor>
 #include <QMap>
 
 #include <memory>
@@ -143,6 +144,9 @@ struct MvMemoryClipState
     QMap<int, qint64> freezeFrames; // id -> clip frame
     // What a compound clip shows: a timeline of its own, shared by every copy of the clip.
     MvMemoryTimeline* content = nullptr;
+    // Colours of a text or subtitle clip given at its insertion (invalid: the defaults).
+    QColor textColor;
+    QColor backgroundColor;
     // Library resources (MvMemoryResource.cpp).
     MvMemoryResource resource;
     // Composed texts (MvMemoryTextContainer.cpp): the item a layer belongs to, an item's layers

@@ -171,7 +171,9 @@ void MvMemoryPlayhead::timelineEdited()
 // needs decoding.
 bool MvMemoryPlayhead::isFrameSettled(qint64 frame) const
 {
-    const qint64 second = qMax<qint64>(1, qint64(std::ceil(m_timeline->frameRate().fps())));
+    const MVVBLMODEL::MvRational rate = m_timeline->frameRate();
+    const double fps = rate.denominator > 0 ? double(rate.numerator) / double(rate.denominator) : 0.0;
+    const qint64 second = qMax<qint64>(1, qint64(std::ceil(fps)));
     return qAbs(frame - m_settledFrame) <= second;
 }
 

@@ -20,6 +20,7 @@ using namespace MVVBLMODEL;
 MvMemoryTimeline::Edit::Edit(const MvMemoryTimeline* timeline, const char* operation, const QString& stepName)
     : m_timeline(const_cast<MvMemoryTimeline*>(timeline))
 {
+    m_timeline->d_func()->gate.lock();
     m_timeline->d_func()->record(operation);
     m_timeline->d_func()->undo->beginStep(stepName, QLatin1String("MvMemoryTimeline::") + QLatin1String(operation));
 }
@@ -28,6 +29,20 @@ MvMemoryTimeline::Edit::~Edit()
 {
     m_timeline->d_func()->afterChange();
     m_timeline->d_func()->undo->endStep();
+    m_timeline->d_func()->gate.unlock();
+}
+
+MvMemoryTimeline::Reading::Reading(const MvMemoryTimeline* timeline)
+    : m_gate(timeline ? timeline->threadGate() : nullptr)
+{
+    if (m_gate)
+        m_gate->lock();
+}
+
+MvMemoryTimeline::Reading::~Reading()
+{
+    if (m_gate)
+        m_gate->unlock();
 }
 
 MvMemoryTimelineValues::MvMemoryTimelineValues(MvMemoryUndoRecorder* recorder)
@@ -40,6 +55,14 @@ QString MvMemoryTimelineValues::undoLabel() const
     return QStringLiteral("timeline");
 }
 
+void MvMemoryTimelineValues::setRateFollower(std::function<void(const MVVBLMODEL::MvRational&)> follower)
+{
+    m_rateFollower = std::move(follower);
+    m_followedRate = state().frameRate;
+    if (m_rateFollower)
+        m_rateFollower(m_followedRate);
+}
+
 void MvMemoryTimelineValues::valueChanged()
 {
     for (MvMemoryTrack* track : qAsConst(m_numbered))
@@ -47,6 +70,11 @@ void MvMemoryTimelineValues::valueChanged()
     m_numbered = state().rows;
     for (int row = 0; row < m_numbered.size(); ++row)
         m_numbered.at(row)->setRow(row);
+    if (state().frameRate != m_followedRate) {
+        m_followedRate = state().frameRate;
+        if (m_rateFollower)
+            m_rateFollower(m_followedRate);
+    }
 }
 
 MvMemoryTimelinePrivate::MvMemoryTimelinePrivate(MvMemoryTimeline* q, int timelineKind)
@@ -112,22 +140,31 @@ void MvMemoryTimelinePrivate::afterChange()
         selection->prune(candidates);
     }
     keyFrameSelector->prune();
+    if (activeClip && !activeClip->isOnTimeline()) {
+        activeClip = nullptr;
+        activeIndex = -1;
+    }
     const qint64 now = q_ptr->duration();
     if (now != knownDuration) {
         knownDuration = now;
-        if (ruler)
-            ruler->setTotalFrames(now);
-        playhead->clampToDuration();
+        // The ruler and the playhead are the view's: they follow on the home thread.
+        gate.notify([this, now]() {
+            if (ruler)
+                ruler->setTotalFrames(now);
+            playhead->clampToDuration();
+        });
     }
 }
 
 void MvMemoryTimelinePrivate::modelChanged(const MvMemoryUndoRecorder::Step& step)
 {
-    playhead->timelineEdited();
-    markChangedFramesUnrendered(step);
-    const QList<std::function<void()>> listeners = changeListeners;
-    for (const std::function<void()>& listener : listeners)
-        listener();
+    gate.notify([this, step]() {
+        playhead->timelineEdited();
+        markChangedFramesUnrendered(step);
+        const QList<std::function<void()>> listeners = changeListeners;
+        for (const std::function<void()>& listener : listeners)
+            listener();
+    });
 }
 
 // What a viewer sees or hears changed where a clip's value changed (markers are no part of it),
@@ -190,6 +227,7 @@ void MvMemoryTimelinePrivate::record(const char* operation) const
 
 void MvMemoryTimelinePrivate::build(const char* operation, const QString& stepName, const std::function<void()>& work)
 {
+    MvMemoryThreadGate::Locker locker(&gate);
     record(operation);
     if (undo->isStepOpen()) {
         undo->beginStep(stepName, QLatin1String("MvMemoryTimeline::") + QLatin1String(operation));
@@ -221,9 +259,13 @@ MvMemoryTimeline::MvMemoryTimeline(int kind)
     d->timelineMarkers = new MvMemoryMarkerList(this, nullptr);
     d->keyFrameSelector = new MvMemoryKeyFrameSelector(this);
     d->keyFrameClipboard = new MvMemoryKeyFrameClipboard(this);
+    d->undo->setGate(&d->gate);
     d->ruler = IMvTimelineRuler::createInstance();
-    d->ruler->setFrameRate(d->frameRate.numerator, d->frameRate.denominator);
     d->ruler->setTotalFrames(0);
+    // The ruler's time codes follow the project's rate, on the home thread like every observer.
+    d->values->setRateFollower([d](const MvRational& rate) {
+        d->gate.notify([d, rate]() { d->ruler->setFrameRate(int(rate.numerator), int(rate.denominator)); });
+    });
 }
 
 MvMemoryTimeline::~MvMemoryTimeline() = default;
@@ -441,6 +483,7 @@ void MvMemoryTimeline::prepareVirtualPlayhead()
 MvMemoryTrack* MvMemoryTimeline::addTrack(MvTrackType type)
 {
     Q_D(MvMemoryTimeline);
+    MvMemoryThreadGate::Locker locker(&d->gate);
     if (type != TrackType_Audio && type != TrackType_Picture)
         return nullptr;
     auto* track = new MvMemoryTrack(this, type);
@@ -462,6 +505,7 @@ MvMemoryTrack* MvMemoryTimeline::addTrack(MvTrackType type)
 MvMemoryClip* MvMemoryTimeline::addClip(int trackIndex, MvClipType type, qint64 start, qint64 end, const QString& name)
 {
     Q_D(MvMemoryTimeline);
+    MvMemoryThreadGate::Locker locker(&d->gate);
     MvMemoryTrack* track = memoryTrack(trackIndex);
     if (!track || !track->accepts(type) || start < 0 || end < start)
         return nullptr;
@@ -481,6 +525,7 @@ MvMemoryTransition* MvMemoryTimeline::addTransition(
     MvMemoryClip* owner, quint16 placement, qint64 length, const QString& name)
 {
     Q_D(MvMemoryTimeline);
+    MvMemoryThreadGate::Locker locker(&d->gate);
     if (!owner || owner->timeline() != this || !owner->isOnTimeline() || length < 1 || length > owner->frameCount())
         return nullptr;
     if (placement != IMvTransition::AtStart && placement != IMvTransition::AtEnd)
@@ -509,19 +554,22 @@ int MvMemoryTimeline::nextTransitionIdentifier()
     return d->nextTransitionId++;
 }
 
+// A project's frame rate is an undoable setting like any other; clips keep their frames, so
+// their times change with it, and the ruler's time codes follow.
 void MvMemoryTimeline::setFrameRate(int numerator, int denominator)
 {
     Q_D(MvMemoryTimeline);
-    if (numerator <= 0 || denominator <= 0)
+    const MvRational rate { numerator, denominator };
+    if (numerator <= 0 || denominator <= 0 || rate == frameRate())
         return;
-    d->frameRate = MvFrameRate { numerator, denominator };
-    d->ruler->setFrameRate(numerator, denominator);
+    Edit edit(this, "setFrameRate", QStringLiteral("change frame rate"));
+    d->values->change()->frameRate = rate;
 }
 
-MvFrameRate MvMemoryTimeline::frameRate() const
+MvMemoryThreadGate* MvMemoryTimeline::threadGate() const
 {
     Q_D(const MvMemoryTimeline);
-    return d->frameRate;
+    return const_cast<MvMemoryThreadGate*>(&d->gate);
 }
 
 void MvMemoryTimeline::addChangeListener(std::function<void()> listener)

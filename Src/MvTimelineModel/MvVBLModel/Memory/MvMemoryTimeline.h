@@ -13,6 +13,7 @@
 #include <QStringList>
 
 class MvCallJournal;
+class MvMemoryThreadGate;
 class MvMemoryEditService;
 class MvMemoryKeyFrameClipboard;
 class MvMemoryKeyFrameSelector;
@@ -94,6 +95,10 @@ public:
     void smartKeyingClips(QList<IMvClip*>& clips) const override;
     bool virtualPlayheadAllowed() const override;
     void prepareVirtualPlayhead() override;
+    // Media insertion (MvMemoryTimelineMedia.cpp).
+    MVVBLMODEL::MvRational frameRate() const override;
+    unsigned addMedias(const MvTimelineAddMediaParam& param, QList<IMvClip*>& clips, int policy) override;
+    void activateClip(IMvClip* clip, int index) override;
 
     // Building the project.
     MvMemoryTrack* addTrack(MVVBLMODEL::MvTrackType type);
@@ -103,8 +108,8 @@ public:
     // item composes no layers or the kind is no layer kind.
     MvMemoryClip* addChildClip(
         MvMemoryClip* container, MVVBLMODEL::MvClipType type, const QString& name, bool secondary);
+    // A change of the project's frame rate (an undo step); positions stay in frames.
     void setFrameRate(int numerator, int denominator);
-    MVVBLMODEL::MvFrameRate frameRate() const;
 
     // The project the timeline belongs to, and its name: compound clips refuse to be put into a
     // timeline of another project or into the timeline they show.
@@ -121,6 +126,25 @@ public:
     void addChangeListener(std::function<void()> listener);
     MvCallJournal* journal() const;
     int beginDeleteCount() const;
+
+    // The clip opened by activateClip and the index it was opened at; null once it left the timeline.
+    MvMemoryClip* activeClip() const;
+    int activeIndex() const;
+
+    // Threads: every change holds the gate; observers are told on the thread that made the
+    // timeline (see MvMemoryThreadGate.h). A host that reads the model while a worker may be
+    // changing it (a timer, a paint) holds a Reading for the time it reads.
+    MvMemoryThreadGate* threadGate() const;
+    class MVMEMORY_EXPORT Reading
+    {
+    public:
+        explicit Reading(const MvMemoryTimeline* timeline);
+        ~Reading();
+
+    private:
+        Q_DISABLE_COPY(Reading)
+        MvMemoryThreadGate* m_gate;
+    };
 
     // Concrete objects.
     MvMemoryPlayhead* playheadImpl() const;

@@ -15,10 +15,17 @@
 
 #include <limits>
 
+using MVVBLMODEL::MvRational;
+
 namespace {
 QString num(qint64 value)
 {
     return QString::number(value);
+}
+
+QString colourName(const QColor& colour)
+{
+    return colour.isValid() ? colour.name(QColor::HexArgb) : QStringLiteral("-");
 }
 
 QString keysText(const MvKeyFrameMap& keys)
@@ -176,7 +183,14 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
             problems.append(QStringLiteral("ruler length differs from the duration"));
         if (ruler->visibleStartFrame() < 0 || ruler->visibleStartFrame() > qMax<qint64>(length, 0))
             problems.append(QStringLiteral("visible range outside the timeline"));
+        int numerator = 0;
+        int denominator = 0;
+        ruler->frameRate(&numerator, &denominator);
+        if (MvRational { numerator, denominator } != q->frameRate())
+            problems.append(QStringLiteral("ruler frame rate differs from the project's"));
     }
+    if (activeClip && !activeClip->isOnTimeline())
+        problems.append(QStringLiteral("the active clip is not on the timeline"));
     if (undo->isStepOpen())
         problems.append(QStringLiteral("an undo step is left open"));
     problems.append(recorder->problems());
@@ -185,6 +199,7 @@ void MvMemoryTimelinePrivate::checkItems(QStringList& problems) const
 QString MvMemoryTimeline::checkInvariants() const
 {
     Q_D(const MvMemoryTimeline);
+    Reading reading(this);
     QStringList problems;
     d->checkTracks(problems);
     d->checkClips(problems);
@@ -215,6 +230,9 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     if (state.content)
         text += QLatin1String("\n    compound of project ") % num(state.content->projectId()) % QLatin1String(" \"")
             % state.content->name() % QLatin1Char('"');
+    if (state.textColor.isValid() || state.backgroundColor.isValid())
+        text += QLatin1String("\n    colours: text ") % colourName(state.textColor) % QLatin1String(" background ")
+            % colourName(state.backgroundColor);
     if (state.resource.isLibraryResource())
         text += QLatin1String("\n    ") % MvMemoryResources::text(state.resource);
     if (!state.children.isEmpty())
@@ -233,9 +251,12 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
 QString MvMemoryTimeline::stateText() const
 {
     Q_D(const MvMemoryTimeline);
+    Reading reading(this);
     QStringList lines;
     lines.append(
         QLatin1String("duration ") % num(duration()) % QLatin1String(" playhead ") % num(d->playhead->currentFrame()));
+    const MvRational rate = frameRate();
+    lines.append(QLatin1String("frame rate ") % num(rate.numerator) % QLatin1Char('/') % num(rate.denominator));
     for (int row = 0; row < d->rows().size(); ++row) {
         const MvMemoryTrack* track = d->rows().at(row);
         lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
@@ -262,7 +283,8 @@ QString MvMemoryTimeline::stateText() const
             selected.append(QLatin1Char('t') % num(transition->identifier()));
     }
     lines.append(QLatin1String("selection: ") % selected.join(QLatin1Char(' ')) % QLatin1String(" timeline=")
-        % num(d->selection->isTimelineSelected()));
+        % num(d->selection->isTimelineSelected()) % QLatin1String(" active=")
+        % (d->activeClip ? d->clipId(d->activeClip) % QLatin1Char('@') % num(d->activeIndex) : QStringLiteral("-")));
     const IMvMarker* marker = d->markerModel->selectedMarker();
     lines.append(QLatin1String("selected marker: ") % (marker ? num(marker->frame()) : QStringLiteral("-")));
     return lines.join(QLatin1Char('\n'));

@@ -2,6 +2,7 @@
 
 #include "MvMemoryGlobal.h"
 
+#include "MvMemoryThreadGate.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryUndoRecorder.h"
 
@@ -10,14 +11,19 @@
 #include <functional>
 
 class IMvTimelineRuler;
+struct MvTimelineAddMediaParam;
 class MvMemoryMarks;
 class IMvTimelineRenderService;
 
 struct MvMemoryTimelineState
 {
     QList<MvMemoryTrack*> rows; // the tracks on the timeline, top row first
+    MVVBLMODEL::MvRational frameRate;
 
-    bool operator==(const MvMemoryTimelineState& other) const { return rows == other.rows; }
+    bool operator==(const MvMemoryTimelineState& other) const
+    {
+        return rows == other.rows && frameRate == other.frameRate;
+    }
 };
 
 // The timeline's own undoable values: which tracks it shows, in which order. Timeline-wide values
@@ -27,12 +33,16 @@ class MvMemoryTimelineValues : public MvMemoryValued<MvMemoryTimelineState>
 public:
     explicit MvMemoryTimelineValues(MvMemoryUndoRecorder* recorder);
     QString undoLabel() const override;
+    // Told when the frame rate changed, by an edit, an undo or a redo.
+    void setRateFollower(std::function<void(const MVVBLMODEL::MvRational&)> follower);
 
 protected:
     void valueChanged() override;
 
 private:
     QList<MvMemoryTrack*> m_numbered; // the rows whose tracks know their index
+    MVVBLMODEL::MvRational m_followedRate;
+    std::function<void(const MVVBLMODEL::MvRational&)> m_rateFollower;
 };
 
 class MvMemoryTimelinePrivate
@@ -70,6 +80,9 @@ public:
     void checkGroupsAndTransitions(QStringList& problems) const;
     void checkItems(QStringList& problems) const;
     QString clipText(const MvMemoryClip* clip) const;
+    // Media insertion (MvMemoryTimelineMedia.cpp).
+    MvMemoryTrack* rowForMedia(MVVBLMODEL::MvClipType type, int asked, qint64 start, qint64 end, int policy);
+    MvMemoryClip* insertMediaClip(const MvTimelineAddMediaParam& param, int index, int policy, unsigned* flags);
     QString clipId(const MvMemoryClip* clip) const;
     // Composed texts (MvMemoryTextContainer.cpp): layers of their own for a copy of an item.
     void copyChildren(MvMemoryClip* copy, const QList<MvMemoryClip*>& children);
@@ -78,10 +91,11 @@ public:
     MvMemoryTimeline* q_ptr;
     Q_DECLARE_PUBLIC(MvMemoryTimeline)
 
+    // Made first and deleted last: every change of the timeline holds it.
+    MvMemoryThreadGate gate;
     int kind;
     int projectId = 0;
     QString name;
-    MVVBLMODEL::MvFrameRate frameRate;
     // Made first and deleted last: every undoable object reports to it.
     MvMemoryUndoRecorder* recorder = nullptr;
     MvMemoryTimelineValues* values = nullptr;
@@ -104,6 +118,10 @@ public:
     IMvTimelineRenderService* renderService = nullptr;
     MvCallJournal* journal = nullptr;
     QList<std::function<void()>> changeListeners;
+
+    // The clip opened for editing in place, view state (activateClip).
+    MvMemoryClip* activeClip = nullptr;
+    int activeIndex = -1;
 
     qint64 knownDuration = 0;
     int beginDeleteCount = 0;

@@ -1,5 +1,7 @@
 #include "MvMemoryUndoService.h"
 
+#include "MvMemoryThreadGate.h"
+
 MvMemoryUndoService::MvMemoryUndoService(MvMemoryUndoRecorder* recorder, Restored restored, Changed changed)
     : m_recorder(recorder)
     , m_restored(std::move(restored))
@@ -7,9 +9,17 @@ MvMemoryUndoService::MvMemoryUndoService(MvMemoryUndoRecorder* recorder, Restore
 {
 }
 
-// Inner steps join the outermost one: only its name and source are kept.
+void MvMemoryUndoService::setGate(MvMemoryThreadGate* gate)
+{
+    m_gate = gate;
+}
+
+// Inner steps join the outermost one: only its name and source are kept. The timeline's gate is
+// held from the opening of a step to its end, so a step is one change to any other thread.
 void MvMemoryUndoService::beginStep(const QString& name, const QString& source)
 {
+    if (m_gate)
+        m_gate->lock();
     if (m_depth++ > 0)
         return;
     m_open = Step { name, source, {} };
@@ -18,7 +28,12 @@ void MvMemoryUndoService::beginStep(const QString& name, const QString& source)
 
 void MvMemoryUndoService::endStep()
 {
-    if (m_depth == 0 || --m_depth > 0)
+    if (m_depth == 0)
+        return;
+    MvMemoryThreadGate::Locker release(m_gate);
+    if (m_gate)
+        m_gate->unlock(); // the hold taken by beginStep; the locker's own goes at the end of this call
+    if (--m_depth > 0)
         return;
     m_open.changes = m_recorder->close();
     Step closed = std::move(m_open);
@@ -48,6 +63,7 @@ bool MvMemoryUndoService::canRedo() const
 
 bool MvMemoryUndoService::undo()
 {
+    MvMemoryThreadGate::Locker locker(m_gate);
     if (!canUndo())
         return false;
     m_redo.push_back(std::move(m_undo.back()));
@@ -62,6 +78,7 @@ bool MvMemoryUndoService::undo()
 
 bool MvMemoryUndoService::redo()
 {
+    MvMemoryThreadGate::Locker locker(m_gate);
     if (!canRedo())
         return false;
     m_undo.push_back(std::move(m_redo.back()));

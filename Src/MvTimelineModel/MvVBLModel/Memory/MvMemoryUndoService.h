@@ -10,6 +10,8 @@
 #include <functional>
 #include <vector>
 
+class MvMemoryThreadGate;
+
 // The undo stack. A step keeps the values of the objects it changed, before and after it (see
 // MvMemoryUndoRecorder.h); undo and redo write those values back into the same (persistent)
 // objects, so pointers stay valid.
@@ -22,6 +24,8 @@ public:
     using Changed = std::function<void(const MvMemoryUndoRecorder::Step& changes)>;
 
     MvMemoryUndoService(MvMemoryUndoRecorder* recorder, Restored restored, Changed changed);
+    // The timeline's gate: held while a step is open and while undo or redo writes values back.
+    void setGate(MvMemoryThreadGate* gate);
 
     void beginStep(const QString& name, const QString& source) override;
     void endStep() override;
@@ -54,6 +58,7 @@ private:
     };
 
     MvMemoryUndoRecorder* m_recorder;
+    MvMemoryThreadGate* m_gate = nullptr;
     Restored m_restored;
     Changed m_changed;
     std::vector<Step> m_undo;

@@ -2,12 +2,15 @@
 
 #include "IMvTimelinePlayhead.h"
 #include "MvMemoryClip.h"
+#include "MvMemoryCompoundMediaItem.h"
 #include "MvMemoryEditService.h"
+#include "MvMemoryMediaLibrary.h"
 #include "MvMemoryResource.h"
 #include "MvMemoryTimeline.h"
 #include "MvMemoryUndoService.h"
 
 #include <QColor>
+#include <QPair>
 
 using namespace MVVBLMODEL;
 
@@ -124,4 +127,78 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
 
     timeline.undoService()->clear();
     timeline.playhead()->setCurrentFrame(0);
+}
+
+namespace {
+const qint64 kMs = 1000; // milliseconds in a second
+
+MvMemoryMediaItem* localFile(MvMemoryMediaLibrary& library, const QString& name, MvMediaType type, qint64 seconds)
+{
+    return library.add(new MvMemoryMediaItem(name, type, seconds * kMs));
+}
+
+void withVideo(MvMemoryMediaItem* item, qint64 fps)
+{
+    item->setMediaInfo(MediaInfoFlag_OwnVideoSettings, MvRational { fps, 1 }, QSize(1920, 1080));
+}
+
+// The beach sequence as its project file describes it: a picture row and a sound row.
+void readBeachSequence(MvMemoryTimeline& content, const std::atomic<bool>& cancelled)
+{
+    content.addTrack(TrackType_Picture);
+    content.addTrack(TrackType_Audio);
+    const qint64 second = 30;
+    const QList<QPair<QString, qint64>> shots { { QStringLiteral("Waves rolling in"), 5 },
+        { QStringLiteral("Sandcastle"), 4 }, { QStringLiteral("Footprints"), 3 } };
+    qint64 at = 0;
+    for (const QPair<QString, qint64>& shot : shots) {
+        if (cancelled)
+            return;
+        content.addClip(0, ClipType_Video, at, at + shot.second * second - 1, shot.first);
+        at += shot.second * second;
+    }
+    content.addClip(1, ClipType_Audio, 0, at - 1, QStringLiteral("Surf"));
+}
+
+void readTrailer(MvMemoryTimeline& content, const std::atomic<bool>& cancelled)
+{
+    if (cancelled)
+        return;
+    content.addTrack(TrackType_Picture);
+    content.addClip(0, ClipType_Video, 0, 8 * 25 - 1, QStringLiteral("Trailer cut"));
+}
+}
+
+void MvSampleProject::buildMediaLibrary(MvMemoryMediaLibrary& library, MvMemoryTimeline& project, int readTimeMs)
+{
+    withVideo(localFile(library, QStringLiteral("Sunset timelapse.mp4"), MediaType_Video, 12), 30);
+    withVideo(localFile(library, QStringLiteral("Drone over the bay (60 fps).mp4"), MediaType_Video, 8), 60);
+    localFile(library, QStringLiteral("Cafe ambience.wav"), MediaType_Audio, 20);
+    localFile(library, QStringLiteral("Island map.png"), MediaType_Image, 5);
+    localFile(library, QStringLiteral("Chapter title"), MediaType_Text, 4);
+    localFile(library, QStringLiteral("Interview subtitles.srt"), MediaType_Subtitle, 10);
+    withVideo(localFile(library, QStringLiteral("Empty recording.mp4"), MediaType_Video, 0), 30);
+    MvMemoryMediaItem* capture
+        = localFile(library, QStringLiteral("Screen capture (recording)"), MediaType_ScreenRecording, 0);
+    capture->setMediaInfo(MediaInfoFlag_OwnVideoSettings, MvRational { 25, 1 }, QSize(2560, 1440));
+
+    library.add(new MvMemoryStockMediaItem(QStringLiteral("Stock: city lights"), MediaType_Video, 6 * kMs,
+        { QStringLiteral("720p"), QStringLiteral("1080p"), QStringLiteral("4K") }));
+    library.add(new MvMemoryStockMediaItem(
+        QStringLiteral("Stock: applause"), MediaType_Audio, 4 * kMs, { QStringLiteral("48 kHz") }));
+    library.add(new MvMemoryVCGMediaItem(QStringLiteral("VCG: mountain lake"), MediaType_Video, 10 * kMs,
+        { QStringLiteral("1080p"), QStringLiteral("4K") }));
+
+    MvMemoryTimeline* beach = library.addTimeline(QStringLiteral("Beach sequence"), project.projectId());
+    auto* sequence
+        = library.add(new MvMemoryCompoundMediaItem(QStringLiteral("Beach sequence"), beach, readBeachSequence));
+    sequence->setOrigin(MediaOrigin_Project);
+    sequence->setReadTime(readTimeMs);
+
+    MvMemoryTimeline* trailer = library.addTimeline(QStringLiteral("Imported trailer"), project.projectId() + 1);
+    trailer->setFrameRate(25, 1);
+    library.add(new MvMemoryCompoundMediaItem(QStringLiteral("Imported trailer"), trailer, readTrailer));
+
+    auto* itself = library.add(new MvMemoryCompoundMediaItem(QStringLiteral("This timeline"), &project, nullptr));
+    itself->setOrigin(MediaOrigin_Project);
 }

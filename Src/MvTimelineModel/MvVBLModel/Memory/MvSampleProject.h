@@ -4,6 +4,7 @@
 
 #include "MvVBLModelGlobal.h"
 
+class MvMemoryMediaLibrary;
 class MvMemoryTimeline;
 
 // The demo's built-in project: three picture rows and two audio rows, about two minutes at 30
@@ -15,4 +16,11 @@ class MVMEMORY_EXPORT MvSampleProject
 {
 public:
     static void build(MvMemoryTimeline& timeline);
+
+    // The project's media, for adding to the timeline: local files of every kind (one of them
+    // empty, one at 60 frames per second, a screen recording still being written), stock items
+    // that need a download with one or three resolutions, a VCG item, and compound items (one of
+    // this project whose timeline takes readTimeMs to read, one of another project, and the
+    // project's own timeline, which cannot go into itself).
+    static void buildMediaLibrary(MvMemoryMediaLibrary& library, MvMemoryTimeline& project, int readTimeMs = 1500);
 };
