@@ -13,8 +13,8 @@ class MvDemoCommandLine
 
 public:
     MvDemoCommandLine()
-        : scenario(QStringLiteral("scenario"),
-            tr("Play the built-in scenario, save screenshots and the journal, then quit."))
+        : scenario(
+            QStringLiteral("scenario"), tr("Play the built-in scenario, save screenshots and the journal, then quit."))
         , output(QStringLiteral("output"), tr("Folder for the scenario's files."), tr("dir"),
               QStringLiteral("demo-output"))
         , verbose(QStringLiteral("verbose"),

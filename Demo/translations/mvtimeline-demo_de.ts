@@ -5,1158 +5,1317 @@
     <name>MvDemoCommandLine</name>
     <message>
         <source>Play the built-in scenario, save screenshots and the journal, then quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das eingebaute Szenario abspielen, Bildschirmfotos und Protokoll speichern, dann beenden.</translation>
     </message>
     <message>
         <source>Folder for the scenario&apos;s files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für die Dateien des Szenarios.</translation>
     </message>
     <message>
         <source>dir</source>
-        <translation type="unfinished"></translation>
+        <translation>ordner</translation>
     </message>
     <message>
         <source>Print the library&apos;s detail and note records too, not only its warnings and refusals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die Detail- und Hinweiseinträge der Bibliothek ausgeben, nicht nur ihre Warnungen und Ablehnungen.</translation>
     </message>
     <message>
         <source>Show the demo in this language (for instance de or fr) instead of the system&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Demo in dieser Sprache zeigen (etwa de oder fr) statt in der des Systems.</translation>
     </message>
     <message>
         <source>language</source>
-        <translation type="unfinished"></translation>
+        <translation>sprache</translation>
     </message>
     <message>
         <source>MvTimeline demo editor</source>
-        <translation type="unfinished"></translation>
+        <translation>MvTimeline-Demo-Editor</translation>
     </message>
 </context>
 <context>
     <name>MvDemoJournalWords</name>
     <message>
         <source>ask whether to ungroup before splitting</source>
-        <translation type="unfinished"></translation>
+        <translation>fragen, ob vor dem Teilen die Gruppierung aufgehoben wird</translation>
     </message>
     <message>
         <source>switch the player to this timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>den Player auf diese Zeitleiste umschalten</translation>
     </message>
     <message>
         <source>effects pasted, update the player</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte eingefügt, Player aktualisieren</translation>
     </message>
     <message>
         <source>pause player</source>
-        <translation type="unfinished"></translation>
+        <translation>Player anhalten</translation>
     </message>
     <message>
         <source>stop player</source>
-        <translation type="unfinished"></translation>
+        <translation>Player stoppen</translation>
     </message>
     <message>
         <source>ask whether the player is playing</source>
-        <translation type="unfinished"></translation>
+        <translation>fragen, ob der Player abspielt</translation>
     </message>
     <message>
         <source>pause player and wait for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Player anhalten und darauf warten</translation>
     </message>
     <message>
         <source>seek</source>
-        <translation type="unfinished"></translation>
+        <translation>springen</translation>
     </message>
     <message>
         <source>seek once paused</source>
-        <translation type="unfinished"></translation>
+        <translation>nach dem Anhalten springen</translation>
     </message>
     <message>
         <source>hide the property panel</source>
-        <translation type="unfinished"></translation>
+        <translation>das Eigenschaftenfenster ausblenden</translation>
     </message>
     <message>
         <source>show a page of the property panel</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Seite des Eigenschaftenfensters zeigen</translation>
     </message>
     <message>
         <source>open the advanced subtitle editor</source>
-        <translation type="unfinished"></translation>
+        <translation>den erweiterten Untertitel-Editor öffnen</translation>
     </message>
     <message>
         <source>open the advanced text editor</source>
-        <translation type="unfinished"></translation>
+        <translation>den erweiterten Texteditor öffnen</translation>
     </message>
     <message>
         <source>open the advanced colour panel</source>
-        <translation type="unfinished"></translation>
+        <translation>das erweiterte Farbfenster öffnen</translation>
     </message>
     <message>
         <source>open the advanced title editor</source>
-        <translation type="unfinished"></translation>
+        <translation>den erweiterten Titel-Editor öffnen</translation>
     </message>
     <message>
         <source>effects deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte gelöscht</translation>
     </message>
     <message>
         <source>effects pasted</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte eingefügt</translation>
     </message>
     <message>
         <source>show the property panel</source>
-        <translation type="unfinished"></translation>
+        <translation>das Eigenschaftenfenster zeigen</translation>
     </message>
     <message>
         <source>find similar resources in the media library</source>
-        <translation type="unfinished"></translation>
+        <translation>ähnliche Ressourcen in der Medienbibliothek suchen</translation>
     </message>
     <message>
         <source>select clips in the media editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips im Medieneditor auswählen</translation>
     </message>
     <message>
         <source>download media items</source>
-        <translation type="unfinished"></translation>
+        <translation>Medien herunterladen</translation>
     </message>
     <message>
         <source>choose the resolution of stock items</source>
-        <translation type="unfinished"></translation>
+        <translation>die Auflösung von Stock-Medien wählen</translation>
     </message>
     <message>
         <source>choose the resolution of a VCG item</source>
-        <translation type="unfinished"></translation>
+        <translation>die Auflösung eines VCG-Mediums wählen</translation>
     </message>
     <message>
         <source>offer the media&apos;s settings to the project</source>
-        <translation type="unfinished"></translation>
+        <translation>dem Projekt die Einstellungen des Mediums anbieten</translation>
     </message>
     <message>
         <source>media added</source>
-        <translation type="unfinished"></translation>
+        <translation>Medien hinzugefügt</translation>
     </message>
     <message>
         <source>bring the new clips into view</source>
-        <translation type="unfinished"></translation>
+        <translation>die neuen Clips ins Bild holen</translation>
     </message>
     <message>
         <source>message %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachricht %1</translation>
     </message>
     <message>
         <source>refusal</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablehnung</translation>
     </message>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>note</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>detail</source>
-        <translation type="unfinished"></translation>
+        <translation>Detail</translation>
     </message>
     <message>
         <source>library %1: %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothek %1: %2 (%3)</translation>
     </message>
 </context>
 <context>
     <name>MvDemoLibraryDock</name>
     <message>
         <source>Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothek</translation>
     </message>
     <message>
         <source>Find Similar asks the media library for resources like the one a clip was made from. The library&apos;s answers would be listed here; the requests are:</source>
-        <translation type="unfinished"></translation>
+        <translation>„Ähnliche suchen“ fragt die Medienbibliothek nach Ressourcen wie der, aus der ein Clip entstand. Die Antworten der Bibliothek stünden hier; die Anfragen sind:</translation>
     </message>
     <message>
         <source>Similar to “%1” on the %2 shelf (resource %3, %4, library %5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ähnlich wie „%1“ im Regal %2 (Ressource %3, %4, Bibliothek %5)</translation>
     </message>
 </context>
 <context>
     <name>MvDemoMarkerDialogStyle</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>MvDemoMediaPanel</name>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>Medien</translation>
     </message>
     <message>
         <source>Double-click or drag onto a track to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelklicken oder auf eine Spur ziehen, um es hinzuzufügen.</translation>
     </message>
     <message>
         <source>Add to Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Zeitleiste hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>MvDemoMediaScene</name>
     <message>
         <source>downloaded one item</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Medium heruntergeladen</translation>
     </message>
     <message>
         <source>downloaded %1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Medien heruntergeladen</translation>
     </message>
     <message>
         <source>added %1 as one clip</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 als ein Clip hinzugefügt</translation>
     </message>
     <message>
         <source>added %1 as %2 clips</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 als %2 Clips hinzugefügt</translation>
     </message>
     <message>
         <source>the new clip brought into view</source>
-        <translation type="unfinished"></translation>
+        <translation>der neue Clip ist im Bild</translation>
     </message>
     <message>
         <source>%1 new clips brought into view</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 neue Clips sind im Bild</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird heruntergeladen …</translation>
     </message>
     <message>
         <source>download cancelled: %1 of %2 fetched, %3 stays online</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen abgebrochen: %1 von %2 geholt, %3 bleibt online</translation>
     </message>
     <message>
         <source>%1 left out</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ausgelassen</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2</translation>
     </message>
     <message>
         <source>Choose a Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung wählen</translation>
     </message>
     <message>
         <source>“%1” comes in these resolutions:</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es in diesen Auflösungen:</translation>
     </message>
     <message>
         <source>Use This Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Auflösung verwenden</translation>
     </message>
     <message>
         <source>Project Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekteinstellungen</translation>
     </message>
     <message>
         <source>nothing to match</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts anzugleichen</translation>
     </message>
     <message>
         <source>the project already runs at %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>das Projekt läuft schon mit %1 fps</translation>
     </message>
     <message>
         <source>%1 runs at %2 fps; the project runs at %3 fps. Change the project to %2 fps?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 läuft mit %2 fps, das Projekt mit %3 fps. Projekt auf %2 fps umstellen?</translation>
     </message>
     <message>
         <source>Change to %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf %1 fps umstellen</translation>
     </message>
     <message>
         <source>Keep %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps beibehalten</translation>
     </message>
     <message>
         <source>the project keeps %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>das Projekt bleibt bei %1 fps</translation>
     </message>
     <message>
         <source>the project now runs at %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>das Projekt läuft jetzt mit %1 fps</translation>
     </message>
 </context>
 <context>
     <name>MvDemoMediaThumbnail</name>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel</translation>
     </message>
     <message>
         <source>Screen recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmaufnahme</translation>
     </message>
     <message>
         <source>Compound</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammengesetzt</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>%1, read on first use</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, wird bei der ersten Verwendung gelesen</translation>
     </message>
     <message>
         <source>%1, %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 s</translation>
     </message>
     <message>
         <source>%1, still recording</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Aufnahme läuft noch</translation>
     </message>
     <message>
         <source>%1, empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, leer</translation>
     </message>
     <message>
         <source>, %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 fps</translation>
     </message>
 </context>
 <context>
     <name>MvDemoPropertiesDock</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>Video keyframes: pick one to go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Video-Keyframes: einen wählen, um dorthin zu springen</translation>
     </message>
     <message>
         <source>Audio keyframes: pick one to go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio-Keyframes: einen wählen, um dorthin zu springen</translation>
     </message>
     <message>
         <source>the Properties dock is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>das Eigenschaftenfenster ist ausgeblendet</translation>
     </message>
     <message>
         <source>selected in the text editor: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>im Texteditor ausgewählt: %1</translation>
     </message>
     <message>
         <source>Properties dock shows: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaftenfenster zeigt: %1</translation>
     </message>
     <message>
         <source>keyframe panel: Properties dock shows: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keyframe-Bereich: Eigenschaftenfenster zeigt: %1</translation>
     </message>
     <message>
         <source>%1, rotated %2°</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, um %2° gedreht</translation>
     </message>
     <message>
         <source>Select a picture clip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Bildclip auswählen.</translation>
     </message>
     <message>
         <source>Select a clip with sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Clip mit Ton auswählen.</translation>
     </message>
     <message>
         <source>Colour grading of “%1”: the editor&apos;s colour wheels and curves would open here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbkorrektur von „%1“: Farbräder und Kurven des Editors würden sich hier öffnen.</translation>
     </message>
     <message>
         <source>Select a picture clip to grade its colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Bildclip auswählen, um seine Farben zu korrigieren.</translation>
     </message>
     <message>
         <source>This selection has no property panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Auswahl gibt es kein Eigenschaftenfenster.</translation>
     </message>
     <message>
         <source>The texts of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Texte von „%1“</translation>
     </message>
     <message>
         <source>Select a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Text auswählen.</translation>
     </message>
     <message>
         <source>%1 (secondary)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (zweitrangig)</translation>
     </message>
     <message>
         <source>keyframe picked: %1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keyframe gewählt: %1 bei %2</translation>
     </message>
 </context>
 <context>
     <name>MvDemoPropertyWords</name>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Video with sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Video mit Ton</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Sticker</source>
-        <translation type="unfinished"></translation>
+        <translation>Sticker</translation>
     </message>
     <message>
         <source>Effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekt</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Adjustment layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsebene</translation>
     </message>
     <message>
         <source>Placeholder</source>
-        <translation type="unfinished"></translation>
+        <translation>Platzhalter</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form</translation>
     </message>
     <message>
         <source>Transition</source>
-        <translation type="unfinished"></translation>
+        <translation>Übergang</translation>
     </message>
     <message>
         <source>Subtitle</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Compound clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammengesetzter Clip</translation>
     </message>
     <message>
         <source>Screen recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmaufnahme</translation>
     </message>
     <message>
         <source>Music</source>
-        <translation type="unfinished"></translation>
+        <translation>Musik</translation>
     </message>
     <message>
         <source>Sound effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Soundeffekt</translation>
     </message>
     <message>
         <source>Kind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Art %1</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Sound effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Soundeffekte</translation>
     </message>
     <message>
         <source>Stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Sticker</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Transitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Übergänge</translation>
     </message>
     <message>
         <source>no shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Regal</translation>
     </message>
     <message>
         <source>Clip properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Clip-Eigenschaften</translation>
     </message>
     <message>
         <source>Picture properties and video keyframes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildeigenschaften und Video-Keyframes</translation>
     </message>
     <message>
         <source>Audio properties and audio keyframes</source>
-        <translation type="unfinished"></translation>
+        <translation>Audioeigenschaften und Audio-Keyframes</translation>
     </message>
     <message>
         <source>Advanced text editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Texteditor</translation>
     </message>
     <message>
         <source>Advanced subtitle editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Untertitel-Editor</translation>
     </message>
     <message>
         <source>Advanced title editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Titel-Editor</translation>
     </message>
     <message>
         <source>Advanced colour editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Farbeditor</translation>
     </message>
     <message>
         <source>No properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Eigenschaften</translation>
     </message>
     <message>
         <source>%1 (clip frame %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Clip-Frame %2)</translation>
     </message>
     <message>
         <source>Select a clip to see its properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Clip auswählen, um seine Eigenschaften zu sehen.</translation>
     </message>
     <message>
         <source>Name: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Name: %1</translation>
     </message>
     <message>
         <source>Kind: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Art: %1</translation>
     </message>
     <message>
         <source>From %1 to %2 (%3 frames)</source>
-        <translation type="unfinished"></translation>
+        <translation>Von %1 bis %2 (%3 Frames)</translation>
     </message>
     <message>
         <source>Track: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur: %1</translation>
     </message>
     <message>
         <source>Rotation: %1°</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung: %1°</translation>
     </message>
     <message>
         <source>Library resource: “%1” from library %2%3</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliotheksressource: „%1“ aus Bibliothek %2%3</translation>
     </message>
     <message>
         <source>, similar resources can be found</source>
-        <translation type="unfinished"></translation>
+        <translation>, ähnliche Ressourcen lassen sich finden</translation>
     </message>
     <message>
         <source>Your own media</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Medien</translation>
     </message>
     <message>
         <source>%1 (secondary)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (zweitrangig)</translation>
     </message>
     <message>
         <source>Layers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen: %1</translation>
     </message>
     <message>
         <source>Keyframes: %1 video, %2 audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Keyframes: %1 Video, %2 Audio</translation>
     </message>
 </context>
 <context>
     <name>MvDemoRefusals</name>
     <message>
         <source>Select one clip made from a library resource to find similar ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Clip aus einer Bibliotheksressource auswählen, um ähnliche zu finden.</translation>
     </message>
     <message>
         <source>“%1” is your own media: the library finds only resources like its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist ein eigenes Medium: Die Bibliothek findet nur Ressourcen wie ihre eigenen.</translation>
     </message>
     <message>
         <source>The library&apos;s similarity search does not know “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ähnlichkeitssuche der Bibliothek kennt „%1“ nicht.</translation>
     </message>
     <message>
         <source>Select one composed text to select its texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen zusammengesetzten Text auswählen, um seine Texte auszuwählen.</translation>
     </message>
     <message>
         <source>“%1” is not composed of texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ besteht nicht aus Texten.</translation>
     </message>
     <message>
         <source>Select a clip first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Clip auswählen.</translation>
     </message>
     <message>
         <source>Colours are graded on picture clips.</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben werden an Bildclips korrigiert.</translation>
     </message>
     <message>
         <source>Pick a keyframe in the Properties dock first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst im Eigenschaftenfenster einen Keyframe wählen.</translation>
     </message>
     <message>
         <source>Close the virtual playhead before splitting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dem Teilen den virtuellen Abspielkopf schließen.</translation>
     </message>
     <message>
         <source>There is no clip under the playhead to split.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter dem Abspielkopf liegt kein Clip zum Teilen.</translation>
     </message>
     <message>
         <source>None of the selected clips is under the playhead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner der ausgewählten Clips liegt unter dem Abspielkopf.</translation>
     </message>
     <message>
         <source>The clips under the playhead are on locked tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Clips unter dem Abspielkopf liegen auf gesperrten Spuren.</translation>
     </message>
     <message>
         <source>Select one clip to trim.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Clip zum Trimmen auswählen.</translation>
     </message>
     <message>
         <source>The selected clip is on a locked track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ausgewählte Clip liegt auf einer gesperrten Spur.</translation>
     </message>
     <message>
         <source>Put the playhead inside the selected clip to trim it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Trimmen den Abspielkopf in den ausgewählten Clip setzen.</translation>
     </message>
     <message>
         <source>Select the clips to ripple delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Clips zum Löschen mit Lückenschluss auswählen.</translation>
     </message>
     <message>
         <source>Nothing is selected to delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Löschen ist nichts ausgewählt.</translation>
     </message>
     <message>
         <source>A selected clip is on a locked track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein ausgewählter Clip liegt auf einer gesperrten Spur.</translation>
     </message>
     <message>
         <source>There is no timeline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Zeitleiste.</translation>
     </message>
     <message>
         <source>Select the clips to move.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zu verschiebenden Clips auswählen.</translation>
     </message>
     <message>
         <source>The clips already start at the beginning of the timeline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Clips beginnen schon am Anfang der Zeitleiste.</translation>
     </message>
     <message>
         <source>There is no track of the clips&apos; kind there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort gibt es keine Spur für diese Art von Clips.</translation>
     </message>
     <message>
         <source>The track the clips would move to is locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zielspur der Clips ist gesperrt.</translation>
     </message>
     <message>
         <source>The clips cannot move before the start of the timeline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Clips können nicht vor den Anfang der Zeitleiste verschoben werden.</translation>
     </message>
     <message>
         <source>Another clip is in the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Clip ist im Weg.</translation>
     </message>
     <message>
         <source>Select a clip to rotate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Clip zum Drehen auswählen.</translation>
     </message>
     <message>
         <source>A marker cannot go on a transition: select a clip or nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf einen Übergang kann keine Markierung: einen Clip oder nichts auswählen.</translation>
     </message>
     <message>
         <source>There is already a marker at the playhead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Abspielkopf ist schon eine Markierung.</translation>
     </message>
     <message>
         <source>Select a marker first: click its flag above the ruler.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst eine Markierung auswählen: auf ihr Fähnchen über dem Lineal klicken.</translation>
     </message>
     <message>
         <source>There is no marker at the playhead to edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Abspielkopf ist keine Markierung zum Bearbeiten.</translation>
     </message>
     <message>
         <source>Select a picture clip to add a keyframe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Bildclip auswählen, um einen Keyframe hinzuzufügen.</translation>
     </message>
     <message>
         <source>The selected clips have no sound keyframes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Clips haben keine Audio-Keyframes.</translation>
     </message>
     <message>
         <source>The selected clips have no picture keyframes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Clips haben keine Video-Keyframes.</translation>
     </message>
     <message>
         <source>The virtual playhead is already open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der virtuelle Abspielkopf ist schon geöffnet.</translation>
     </message>
     <message>
         <source>This timeline has no virtual playhead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Zeitleiste hat keinen virtuellen Abspielkopf.</translation>
     </message>
     <message>
         <source>The virtual playhead is not open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der virtuelle Abspielkopf ist nicht geöffnet.</translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
     </message>
     <message>
         <source>There is nothing to redo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
     </message>
 </context>
 <context>
     <name>MvDemoScene</name>
     <message>
         <source>scene: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene: %1</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>to frame %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zu Frame %1</translation>
     </message>
     <message>
         <source>scene: %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene: %1: %2</translation>
     </message>
     <message>
         <source>split and keep the groups</source>
-        <translation type="unfinished"></translation>
+        <translation>teilen und Gruppen behalten</translation>
     </message>
     <message>
         <source>Split grouped clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierte Clips teilen</translation>
     </message>
     <message>
         <source>Some of the clips to split belong to a group. Ungroup them before splitting?</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige der zu teilenden Clips gehören zu einer Gruppe. Vor dem Teilen die Gruppierung aufheben?</translation>
     </message>
     <message>
         <source>Ungroup and Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierung aufheben und teilen</translation>
     </message>
     <message>
         <source>Split and Keep Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilen und Gruppen behalten</translation>
     </message>
     <message>
         <source>ungroup and split</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierung aufheben und teilen</translation>
     </message>
     <message>
         <source>cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>abgebrochen</translation>
     </message>
 </context>
 <context>
     <name>MvDemoTrackArea</name>
     <message>
         <source>Unnamed marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannte Markierung</translation>
     </message>
     <message>
         <source>%1 (rotated %2°)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (um %2° gedreht)</translation>
     </message>
     <message>
         <source>virtual playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>virtueller Abspielkopf</translation>
     </message>
 </context>
 <context>
     <name>MvDemoTrackHeaders</name>
     <message>
         <source>Audio %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio %1</translation>
     </message>
     <message>
         <source>Video %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Video %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvDemoUndoWords</name>
+    <message>
+        <source>Add Audio Keyframe</source>
+        <translation>Audio-Keyframe hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Clip</source>
+        <translation>Clip hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Keyframe</source>
+        <translation>Keyframe hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Freeze Frame</source>
+        <translation>Standbild hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation>Markierung hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Media</source>
+        <translation>Medien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Text Layer</source>
+        <translation>Textebene hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Track</source>
+        <translation>Spur hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Transition</source>
+        <translation>Übergang hinzufügen</translation>
+    </message>
+    <message>
+        <source>Change Frame Rate</source>
+        <translation>Bildrate ändern</translation>
+    </message>
+    <message>
+        <source>Clear All Keyframes</source>
+        <translation>Alle Keyframes entfernen</translation>
+    </message>
+    <message>
+        <source>Clear Selected Keyframes</source>
+        <translation>Ausgewählte Keyframes entfernen</translation>
+    </message>
+    <message>
+        <source>Delete Clips</source>
+        <translation>Clips löschen</translation>
+    </message>
+    <message>
+        <source>Disable Clip</source>
+        <translation>Clip deaktivieren</translation>
+    </message>
+    <message>
+        <source>Edit Marker</source>
+        <translation>Markierung bearbeiten</translation>
+    </message>
+    <message>
+        <source>Enable Clip</source>
+        <translation>Clip aktivieren</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppieren</translation>
+    </message>
+    <message>
+        <source>Lock Track</source>
+        <translation>Spur sperren</translation>
+    </message>
+    <message>
+        <source>Move Clips</source>
+        <translation>Clips verschieben</translation>
+    </message>
+    <message>
+        <source>Add Keyframes</source>
+        <translation>Keyframes hinzufügen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste Keyframes</source>
+        <translation>Keyframes einfügen</translation>
+    </message>
+    <message>
+        <source>Remove Freeze Frame</source>
+        <translation>Standbild entfernen</translation>
+    </message>
+    <message>
+        <source>Remove Keyframes</source>
+        <translation>Keyframes entfernen</translation>
+    </message>
+    <message>
+        <source>Remove Marker</source>
+        <translation>Markierung entfernen</translation>
+    </message>
+    <message>
+        <source>Remove Smart Keying Node</source>
+        <translation>Smart-Keying-Knoten entfernen</translation>
+    </message>
+    <message>
+        <source>Remove Transition</source>
+        <translation>Übergang entfernen</translation>
+    </message>
+    <message>
+        <source>Rename Clip</source>
+        <translation>Clip umbenennen</translation>
+    </message>
+    <message>
+        <source>Ripple Delete Clips</source>
+        <translation>Clips mit Lückenschluss löschen</translation>
+    </message>
+    <message>
+        <source>Rotate Clip</source>
+        <translation>Clip drehen</translation>
+    </message>
+    <message>
+        <source>Change Compound Content</source>
+        <translation>Inhalt des zusammengesetzten Clips ändern</translation>
+    </message>
+    <message>
+        <source>Change Motion Tracking</source>
+        <translation>Bewegungsverfolgung ändern</translation>
+    </message>
+    <message>
+        <source>Replace Resource</source>
+        <translation>Ressource ersetzen</translation>
+    </message>
+    <message>
+        <source>Smart Keying</source>
+        <translation>Smart Keying</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Trim End</source>
+        <translation>Ende trimmen</translation>
+    </message>
+    <message>
+        <source>Trim Start</source>
+        <translation>Anfang trimmen</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Gruppierung aufheben</translation>
+    </message>
+    <message>
+        <source>Unlock Track</source>
+        <translation>Spur entsperren</translation>
     </message>
 </context>
 <context>
     <name>MvDemoWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen / Anhalten</translation>
     </message>
     <message>
         <source>&amp;Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Clip</translation>
     </message>
     <message>
         <source>&amp;Split at Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Abspielkopf &amp;teilen</translation>
     </message>
     <message>
         <source>Trim &amp;Start to Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anfang bis zum Abspielkopf trimmen</translation>
     </message>
     <message>
         <source>Trim &amp;End to Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ende ab dem Abspielkopf trimmen</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>&amp;Ripple Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen mit Lücken&amp;schluss</translation>
     </message>
     <message>
         <source>Move One Frame &amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Frame nach &amp;links</translation>
     </message>
     <message>
         <source>Move One Frame R&amp;ight</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Frame nach &amp;rechts</translation>
     </message>
     <message>
         <source>Move One Second Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde nach links</translation>
     </message>
     <message>
         <source>Move One Second Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Sekunde nach rechts</translation>
     </message>
     <message>
         <source>Move One Track &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Spur nach &amp;oben</translation>
     </message>
     <message>
         <source>Move One Track Do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Spur nach &amp;unten</translation>
     </message>
     <message>
         <source>Rotate 90° Clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Um 90° im Uhrzeigersinn drehen</translation>
     </message>
     <message>
         <source>Rotate 90° Counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Um 90° gegen den Uhrzeigersinn drehen</translation>
     </message>
     <message>
         <source>&amp;Go to Selected Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zum ausgewählten Clip gehen</translation>
     </message>
     <message>
         <source>&amp;Markers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markierungen</translation>
     </message>
     <message>
         <source>&amp;Add Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung &amp;hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Remove Selected Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte Markierung &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Edit Marker at Playhead...</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung am Abspielkopf &amp;bearbeiten …</translation>
     </message>
     <message>
         <source>&amp;Keyframes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keyframes</translation>
     </message>
     <message>
         <source>&amp;Add Keyframe</source>
-        <translation type="unfinished"></translation>
+        <translation>Keyframe &amp;hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Previous Keyframe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorheriger Keyframe</translation>
     </message>
     <message>
         <source>&amp;Next Keyframe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Keyframe</translation>
     </message>
     <message>
         <source>Clear All &amp;Video Keyframes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Video-Keyframes entfernen</translation>
     </message>
     <message>
         <source>Clear All A&amp;udio Keyframes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle A&amp;udio-Keyframes entfernen</translation>
     </message>
     <message>
         <source>&amp;Virtual Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Virtueller Abspielkopf</translation>
     </message>
     <message>
         <source>&amp;Open Virtual Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtuellen Abspielkopf ö&amp;ffnen</translation>
     </message>
     <message>
         <source>&amp;Close Virtual Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtuellen Abspielkopf &amp;schließen</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>Zoom to &amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einpassen</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vergrößern</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Small Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleine Spuren</translation>
     </message>
     <message>
         <source>Normal Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale Spuren</translation>
     </message>
     <message>
         <source>Large Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Spuren</translation>
     </message>
     <message>
         <source>S&amp;nap to Playhead, Edges and Markers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;An Abspielkopf, Kanten und Markierungen ausrichten</translation>
     </message>
     <message>
         <source>&amp;Lock Track</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur &amp;sperren</translation>
     </message>
     <message>
         <source>Small Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleine Zeile</translation>
     </message>
     <message>
         <source>Normal Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale Zeile</translation>
     </message>
     <message>
         <source>Large Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Zeile</translation>
     </message>
     <message>
         <source>project media: the shared assets of the new clip are in the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektmedien: Die gemeinsamen Bestandteile des neuen Clips sind im Projekt</translation>
     </message>
     <message>
         <source>project media: the shared assets of %1 new clips are in the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektmedien: Die gemeinsamen Bestandteile von %1 neuen Clips sind im Projekt</translation>
     </message>
     <message>
         <source>&amp;Media</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Medien</translation>
     </message>
     <message>
         <source>&amp;Add to Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Zeitleiste &amp;hinzufügen</translation>
     </message>
     <message>
         <source>Choose an item in the Media panel first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst ein Medium im Medienbereich wählen.</translation>
     </message>
     <message>
         <source>add media: %1 at frame %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Medien hinzufügen: %1 bei Frame %2</translation>
     </message>
     <message>
         <source>add media: %1 at frame %2 on row %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Medien hinzufügen: %1 bei Frame %2 in Zeile %3</translation>
     </message>
     <message>
         <source>%1 was not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht heruntergeladen.</translation>
     </message>
     <message>
         <source>No resolution was chosen for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für %1 wurde keine Auflösung gewählt.</translation>
     </message>
     <message>
         <source>%1 could not be read in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht rechtzeitig gelesen werden.</translation>
     </message>
     <message>
         <source>%1 is empty: there is nothing to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist leer: Es gibt nichts hinzuzufügen.</translation>
     </message>
     <message>
         <source>%1 could not be added.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht hinzugefügt werden.</translation>
     </message>
     <message>
         <source>P&amp;anels</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;reiche</translation>
     </message>
     <message>
         <source>Find &amp;Similar</source>
-        <translation type="unfinished"></translation>
+        <translation>Ä&amp;hnliche suchen</translation>
     </message>
     <message>
         <source>Select All &amp;Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Texte auswählen</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eigenschaften</translation>
     </message>
     <message>
         <source>Advanced &amp;Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweitert &amp;bearbeiten …</translation>
     </message>
     <message>
         <source>Advanced &amp;Colour...</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte &amp;Farbe …</translation>
     </message>
     <message>
         <source>&amp;Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Animation</translation>
     </message>
     <message>
         <source>Audio Panel of the Picked &amp;Keyframe</source>
-        <translation type="unfinished"></translation>
+        <translation>Audiobereich des gewählten &amp;Keyframes</translation>
     </message>
     <message>
         <source>&amp;Hide Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften aus&amp;blenden</translation>
     </message>
     <message>
         <source>%1[*] - MvTimeline Demo</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[*] – MvTimeline-Demo</translation>
     </message>
     <message>
         <source>A day by the sea</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Tag am Meer</translation>
     </message>
     <message>
         <source>Command journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehlsprotokoll</translation>
     </message>
     <message>
         <source>command: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl: %1</translation>
     </message>
     <message>
         <source>drag: move the selection by %1 frames and %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen: Auswahl um %1 Frames und %2 Zeilen verschieben</translation>
     </message>
     <message>
         <source>The clips cannot move there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Clips können nicht dorthin.</translation>
     </message>
     <message>
         <source>refused: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>abgelehnt: %1</translation>
     </message>
     <message>
         <source>%1 is not available now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist gerade nicht verfügbar.</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen: %1</translation>
     </message>
     <message>
         <source>Playhead %1 (frame %2)   Selected items: %3   Undo steps: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielkopf %1 (Frame %2)   Ausgewählt: %3   Rückgängig-Schritte: %4</translation>
     </message>
 </context>
 </TS>

@@ -5,167 +5,167 @@
     <name>MvMarkerEditColor</name>
     <message>
         <source>Marker colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungsfarben</translation>
     </message>
     <message>
         <source>No color</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Farbe</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelb</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Lila</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe %1</translation>
     </message>
 </context>
 <context>
     <name>MvMarkerEditDialog</name>
     <message>
         <source>Marker Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierung bearbeiten</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>DELETE</source>
-        <translation type="unfinished"></translation>
+        <translation>LÖSCHEN</translation>
     </message>
 </context>
 <context>
     <name>MvMarkerEditPanel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>Marker Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungsfarbe</translation>
     </message>
     <message>
         <source>Add your comments here</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar hier eingeben</translation>
     </message>
 </context>
 <context>
     <name>MvMarkerWidget</name>
     <message>
         <source>Markers</source>
-        <translation type="unfinished"></translation>
+        <translation>Markierungen</translation>
     </message>
     <message>
         <source>No markers</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Markierungen</translation>
     </message>
     <message>
         <source>Unnamed marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannte Markierung</translation>
     </message>
 </context>
 <context>
     <name>MvPureTimelineRulerWidget</name>
     <message>
         <source>Time ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitlineal</translation>
     </message>
     <message>
         <source>Click to set the time, drag sideways to zoom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken setzt die Zeit, seitliches Ziehen zoomt.</translation>
     </message>
 </context>
 <context>
     <name>MvTimelinePlayheadWidget</name>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielkopf</translation>
     </message>
     <message>
         <source>Drag to Move playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen verschiebt den Abspielkopf</translation>
     </message>
     <message>
         <source>Split at playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Abspielkopf teilen</translation>
     </message>
     <message>
         <source>Click to split</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken zum Teilen</translation>
     </message>
 </context>
 <context>
     <name>MvTimelinePresenter</name>
     <message>
         <source>Unable to add compound clip itself, please try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein zusammengesetzter Clip kann nicht in sich selbst eingefügt werden, bitte erneut versuchen</translation>
     </message>
     <message>
         <source>Unable to add external compound clip. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der externe zusammengesetzte Clip konnte nicht hinzugefügt werden. Bitte erneut versuchen.</translation>
     </message>
 </context>
 <context>
     <name>MvTimelineRenderWidget</name>
     <message>
         <source>Render progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Renderfortschritt</translation>
     </message>
     <message>
         <source>How much of the timeline is rendered for preview.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viel der Zeitleiste für die Vorschau gerendert ist.</translation>
     </message>
     <message>
         <source>%1% rendered</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % gerendert</translation>
     </message>
 </context>
 <context>
     <name>MvTimelineRulerWidget</name>
     <message>
         <source>Time ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitlineal</translation>
     </message>
     <message>
         <source>Click to move the playhead, drag sideways to zoom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken versetzt den Abspielkopf, seitliches Ziehen zoomt.</translation>
     </message>
 </context>
 </TS>

@@ -5,167 +5,167 @@
     <name>MvMarkerEditColor</name>
     <message>
         <source>Marker colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs du marqueur</translation>
     </message>
     <message>
         <source>No color</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune couleur</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Jaune</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Violet</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rose</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur %1</translation>
     </message>
 </context>
 <context>
     <name>MvMarkerEditDialog</name>
     <message>
         <source>Marker Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de marqueur</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>DELETE</source>
-        <translation type="unfinished"></translation>
+        <translation>SUPPRIMER</translation>
     </message>
 </context>
 <context>
     <name>MvMarkerEditPanel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>Marker Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du marqueur</translation>
     </message>
     <message>
         <source>Add your comments here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez vos commentaires ici</translation>
     </message>
 </context>
 <context>
     <name>MvMarkerWidget</name>
     <message>
         <source>Markers</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqueurs</translation>
     </message>
     <message>
         <source>No markers</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun marqueur</translation>
     </message>
     <message>
         <source>Unnamed marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqueur sans nom</translation>
     </message>
 </context>
 <context>
     <name>MvPureTimelineRulerWidget</name>
     <message>
         <source>Time ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Règle temporelle</translation>
     </message>
     <message>
         <source>Click to set the time, drag sideways to zoom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour régler le temps, faites glisser latéralement pour zoomer.</translation>
     </message>
 </context>
 <context>
     <name>MvTimelinePlayheadWidget</name>
     <message>
         <source>Playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Tête de lecture</translation>
     </message>
     <message>
         <source>Drag to Move playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser pour déplacer la tête de lecture</translation>
     </message>
     <message>
         <source>Split at playhead</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper à la tête de lecture</translation>
     </message>
     <message>
         <source>Click to split</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour couper</translation>
     </message>
 </context>
 <context>
     <name>MvTimelinePresenter</name>
     <message>
         <source>Unable to add compound clip itself, please try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter le clip composé à lui-même, veuillez réessayer</translation>
     </message>
     <message>
         <source>Unable to add external compound clip. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter le clip composé externe. Veuillez réessayer.</translation>
     </message>
 </context>
 <context>
     <name>MvTimelineRenderWidget</name>
     <message>
         <source>Render progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression du rendu</translation>
     </message>
     <message>
         <source>How much of the timeline is rendered for preview.</source>
-        <translation type="unfinished"></translation>
+        <translation>Part de la timeline déjà rendue pour l’aperçu.</translation>
     </message>
     <message>
         <source>%1% rendered</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % rendu</translation>
     </message>
 </context>
 <context>
     <name>MvTimelineRulerWidget</name>
     <message>
         <source>Time ruler</source>
-        <translation type="unfinished"></translation>
+        <translation>Règle temporelle</translation>
     </message>
     <message>
         <source>Click to move the playhead, drag sideways to zoom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour déplacer la tête de lecture, faites glisser latéralement pour zoomer.</translation>
     </message>
 </context>
 </TS>
