@@ -147,6 +147,20 @@ void report(const QString& name, double milliseconds, double floorMilliseconds, 
     print(name, milliseconds, floorMilliseconds, goal + (held ? QStringLiteral("  ok") : QStringLiteral("  OVER")));
 }
 
+void reportGrowth(const QString& name, const Growth& growth, double maxQuotient)
+{
+    const double floorGrowth = growth.floorSmall > 0.0 ? growth.floorLarge / growth.floorSmall : 0.0;
+    const double walkGrowth = growth.small > 0.0 ? growth.large / growth.small : 0.0;
+    const bool held = floorGrowth > 0.0 && walkGrowth > 0.0 && walkGrowth / floorGrowth <= maxQuotient;
+    if (!held)
+        ++state().overGoal;
+    const QString verdict = QStringLiteral("floor grew %1x; goal growth <= %2 x %1  %3")
+                                .arg(floorGrowth, 0, 'f', 1)
+                                .arg(maxQuotient)
+                                .arg(held ? QStringLiteral("ok") : QStringLiteral("OVER"));
+    print(name, growth.large, growth.small, verdict);
+}
+
 void registerGroup(const char* name, void (*run)())
 {
     state().groups.append({ name, run });

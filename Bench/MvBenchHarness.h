@@ -32,6 +32,23 @@ void report(const QString& name, double milliseconds, double floorMilliseconds, 
 // The same with a goal: the ratio to the floor must stay at or below maxRatio.
 void report(const QString& name, double milliseconds, double floorMilliseconds, double maxRatio);
 
+// How a walk grows from a small to a large size. On its own the growth says little: a plain pass
+// over ten times the clips already costs far more than ten times as much once they no longer fit in
+// the caches. So the walk's growth is set beside the growth of a floor pass over the same clips, and
+// the goal is on their quotient: an n log n walk stays near log(large) / log(small) of its floor's
+// growth, a quadratic one near ten times it.
+struct Growth
+{
+    double small = 0.0;
+    double large = 0.0;
+    double floorSmall = 0.0;
+    double floorLarge = 0.0;
+};
+void reportGrowth(const QString& name, const Growth& growth, double maxQuotient);
+// From 10k to 100k an n log n walk grows 1.25 times as much as its floor; twice that leaves room for
+// the walk and its floor meeting the caches differently and still fails anything quadratic.
+constexpr double kNLogNGrowthQuotient = 2.5;
+
 // A registered group of benchmarks.
 void registerGroup(const char* name, void (*run)());
 

@@ -1,10 +1,10 @@
 // The ruler and the time codes, each against a floor from the same run.
 
 #include "IMvTimelineRuler.h"
-#include "MvRulerModel.h"
 #include "MvBenchHarness.h"
 #include "MvBenchWidgets.h"
 #include "MvPureTimelineRulerWidget.h"
+#include "MvRulerModel.h"
 #include "MvScreen.h"
 #include "MvTimelineRulerPresenter.h"
 

@@ -1,3 +1,4 @@
+#include "MvBaseLog.h"
 #include "MvBenchHarness.h"
 
 #include <QApplication>
@@ -16,6 +17,8 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    // Command notes printed to the terminal would time the terminal; a host writes them elsewhere.
+    MvBaseLog::defaultLogger()->setMinimumLevel(MvBaseLog::Warning);
     registerRulerBenchmarks();
     registerLibraryLoopBenchmarks();
     registerModelBenchmarks();

@@ -8,6 +8,11 @@ const QVector<MvDemoContextMenus::Entry>& MvDemoContextMenus::entries()
 {
     // One line per entry, in menu order within each place.
     static const QVector<Entry> table {
+        { Place::Clip, "copy" },
+        { Place::Clip, "cut" },
+        { Place::Clip, "paste" },
+        { Place::Clip, "duplicate" },
+        { Place::Clip, nullptr },
         { Place::Clip, "split" },
         { Place::Clip, "trim-start" },
         { Place::Clip, "trim-end" },
@@ -28,6 +33,11 @@ const QVector<MvDemoContextMenus::Entry>& MvDemoContextMenus::entries()
         { Place::Clip, "rotate-cw" },
         { Place::Clip, "rotate-ccw" },
         { Place::Clip, nullptr },
+        { Place::Clip, "mute-clips" },
+        { Place::Clip, "detach-audio" },
+        { Place::Clip, "clear-remix" },
+        { Place::Clip, "open-compound" },
+        { Place::Clip, nullptr },
         { Place::Clip, "find-similar" },
         { Place::Clip, "select-all-texts" },
         { Place::Clip, nullptr },
@@ -36,6 +46,8 @@ const QVector<MvDemoContextMenus::Entry>& MvDemoContextMenus::entries()
         { Place::Clip, "advanced-color" },
         { Place::Clip, "add-animation" },
 
+        { Place::Track, "track-visible" },
+        { Place::Track, "track-mute" },
         { Place::Track, "track-lock" },
         { Place::Track, nullptr },
         { Place::Track, "track-rows-small" },
@@ -50,10 +62,12 @@ const QVector<MvDemoContextMenus::Entry>& MvDemoContextMenus::entries()
         { Place::Ruler, "zoom-in" },
         { Place::Ruler, "zoom-out" },
 
+        { Place::EmptySpace, "paste" },
         { Place::EmptySpace, "split" },
         { Place::EmptySpace, "add-marker" },
         { Place::EmptySpace, nullptr },
         { Place::EmptySpace, "zoom-fit" },
+        { Place::EmptySpace, "clear-empty-tracks" },
     };
     return table;
 }

@@ -78,10 +78,12 @@ void MvDemoWindow::buildMenus()
     IMvUndoRedoService* undo = m_timeline->undoRedoService();
     addCommand(edit, QStringLiteral("undo"), tr("&Undo"), QKeySequence::Undo, [undo] { return undo->undo(); });
     addCommand(edit, QStringLiteral("redo"), tr("&Redo"), QKeySequence::Redo, [undo] { return undo->redo(); });
+    buildClipboardActions(edit);
 
     buildClipMenu();
     buildMarkerAndKeyFrameMenus();
     buildViewMenu();
+    buildTimelineMenu();
     buildTrackActions();
     buildPanelMenu();
     buildMediaMenu();
@@ -129,6 +131,7 @@ void MvDemoWindow::buildClipMenu()
         QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_R), leavesStep(undo, [p] { p->rotate90CCW(); }));
     addCommand(clip, QStringLiteral("goto-clip"), tr("&Go to Selected Clip"), QKeySequence(Qt::Key_G),
         movesPlayhead(m_timeline->playhead(), [p] { p->checkAndMoveToSelectedClipStartPos(); }));
+    buildAudioActions(clip);
 }
 
 void MvDemoWindow::buildMarkerAndKeyFrameMenus()
@@ -216,10 +219,10 @@ void MvDemoWindow::buildViewMenu()
 void MvDemoWindow::buildTrackActions()
 {
     // The track header's menu acts on the row it was opened on.
-    QAction* lock = addCommand(nullptr, QStringLiteral("track-lock"), tr("&Lock Track"), QKeySequence(), always([this] {
-        if (IMvTrack* track = m_timeline->trackAt(m_menuTrack))
-            track->setLocked(!track->isLocked());
-    }));
+    QAction* lock = addCommand(nullptr, QStringLiteral("track-lock"), tr("&Lock Track"), QKeySequence(), [this] {
+        return MvDemoTrackHeaders::applyButton(
+            m_presenter, m_timeline->trackAt(m_menuTrack), MvDemoTrackHeaders::Button::Lock);
+    });
     lock->setCheckable(true);
     const QList<QPair<QString, QString>> sizes { { QStringLiteral("track-rows-small"), tr("Small Row") },
         { QStringLiteral("track-rows-normal"), tr("Normal Row") },
@@ -233,7 +236,7 @@ void MvDemoWindow::buildTrackActions()
 void MvDemoWindow::refreshEditActions()
 {
     MvDemoPresenter* p = m_presenter;
-    const MvDemoRefusals refusals(m_timeline.data(), p);
+    const MvDemoRefusals refusals(m_timeline, p);
     const bool hasClips = !m_timeline->selection()->selectedClips().isEmpty();
     const auto enable = [this](const char* name, bool on) {
         if (QAction* a = m_actions.value(QString::fromLatin1(name)))

@@ -66,7 +66,7 @@ void MvDemoWindow::buildMediaPanel(bool interactive)
         },
         Qt::QueuedConnection);
 
-    m_mediaScene = new MvDemoMediaScene(m_timeline.data(), this);
+    m_mediaScene = new MvDemoMediaScene(m_timeline, this);
     m_mediaScene->setDialogParent(this);
     m_mediaScene->setInteractive(interactive);
     m_scene->addMessageHandler(

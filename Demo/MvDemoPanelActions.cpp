@@ -41,7 +41,7 @@ MvDemoWindow::Command when(std::function<bool()> allowed, std::function<void()> 
 
 void MvDemoWindow::buildPanels()
 {
-    m_propertiesDock = new MvDemoPropertiesDock(m_timeline.data(), m_presenter, this);
+    m_propertiesDock = new MvDemoPropertiesDock(m_timeline, m_presenter, this);
     m_libraryDock = new MvDemoLibraryDock(this);
     // Tabs beside the journal: the tracks keep their width, and a request raises its panel.
     tabifyDockWidget(m_journalDock, m_propertiesDock);
@@ -95,7 +95,7 @@ void MvDemoWindow::buildPanelMenu()
 
 void MvDemoWindow::refreshPanelActions()
 {
-    const MvDemoRefusals refusals(m_timeline.data(), m_presenter);
+    const MvDemoRefusals refusals(m_timeline, m_presenter);
     for (const char* name : { "find-similar", "select-all-texts", "advanced-edit", "advanced-color", "add-animation",
              "audio-keyframe-panel" }) {
         if (QAction* action = m_actions.value(QLatin1String(name)))

@@ -1,10 +1,37 @@
 #include "MvDemoPresenter.h"
 
+#include "IMvTimeline.h"
+#include "IMvTrack.h"
 #include "IMvAbstractMediaItem.h"
 
 void MvDemoPresenter::updateAction()
 {
     Q_EMIT actionsNeedRefresh();
+}
+
+IMvTrack* MvDemoPresenter::selectedTrack() const
+{
+    // Tracks outlive their rows (undo brings them back): a picked row is checked against the timeline.
+    const IMvTimeline* model = timeline();
+    if (!model || !m_selectedTrack || model->trackAt(m_selectedTrack->index()) != m_selectedTrack)
+        return nullptr;
+    return m_selectedTrack;
+}
+
+void MvDemoPresenter::setSelectedTrack(IMvTrack* track)
+{
+    m_selectedTrack = track;
+}
+
+IMvTrack* MvDemoPresenter::getSelectedTracked()
+{
+    return selectedTrack();
+}
+
+MVVBLMODEL::MvTrackType MvDemoPresenter::getSelectedTrackType()
+{
+    const IMvTrack* track = selectedTrack();
+    return track ? track->type() : 0;
 }
 
 QList<IMvAbstractMediaItem*> MvDemoPresenter::readyVCGItem(IMvAbstractMediaItem* item)

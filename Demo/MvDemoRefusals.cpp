@@ -78,6 +78,21 @@ QString MvDemoRefusals::reason(const QString& command) const
         { QStringLiteral("add-animation"), [](const MvDemoRefusals& r) { return r.panelClipReason(); } },
         { QStringLiteral("audio-keyframe-panel"),
             [](const MvDemoRefusals& r) { return r.audioKeyFramePanelReason(); } },
+        { QStringLiteral("copy"), [](const MvDemoRefusals& r) { return r.clipboardReason(QStringLiteral("copy")); } },
+        { QStringLiteral("cut"), [](const MvDemoRefusals& r) { return r.clipboardReason(QStringLiteral("cut")); } },
+        { QStringLiteral("duplicate"),
+            [](const MvDemoRefusals& r) { return r.clipboardReason(QStringLiteral("duplicate")); } },
+        { QStringLiteral("paste"), [](const MvDemoRefusals& r) { return r.clipboardReason(QStringLiteral("paste")); } },
+        { QStringLiteral("mute-clips"),
+            [](const MvDemoRefusals& r) { return r.audioReason(QStringLiteral("mute-clips")); } },
+        { QStringLiteral("detach-audio"),
+            [](const MvDemoRefusals& r) { return r.audioReason(QStringLiteral("detach-audio")); } },
+        { QStringLiteral("clear-remix"),
+            [](const MvDemoRefusals& r) { return r.audioReason(QStringLiteral("clear-remix")); } },
+        { QStringLiteral("clear-empty-tracks"),
+            [](const MvDemoRefusals& r) { return r.timelineReason(QStringLiteral("clear-empty-tracks")); } },
+        { QStringLiteral("open-compound"),
+            [](const MvDemoRefusals& r) { return r.timelineReason(QStringLiteral("open-compound")); } },
     };
     const Check check = checks.value(command);
     return m_timeline && check ? check(*this) : QString();

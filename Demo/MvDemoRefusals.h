@@ -47,6 +47,10 @@ private:
     QString panelClipReason() const;
     QString colourReason() const;
     QString audioKeyFramePanelReason() const;
+    // The clipboard, audio and the timeline's rows (MvDemoClipboardActions.cpp).
+    QString clipboardReason(const QString& command) const;
+    QString audioReason(const QString& command) const;
+    QString timelineReason(const QString& command) const;
 
     IMvTimeline* m_timeline;
     MvTimelinePresenter* m_presenter;

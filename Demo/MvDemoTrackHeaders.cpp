@@ -3,18 +3,31 @@
 #include "IMvTimeline.h"
 #include "IMvTrack.h"
 #include "MvDemoHeaderMarks.h"
+#include "MvDemoPresenter.h"
 #include "MvDemoTrackArea.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
-MvDemoTrackHeaders::MvDemoTrackHeaders(IMvTimeline* timeline, MvDemoTrackArea* area, QWidget* parent)
+namespace {
+const QColor kIdleInk(0x8A, 0x8D, 0x96);
+const QColor kLockInk(0xF2, 0xC9, 0x4C);
+const QColor kMutedInk(0xE0, 0x6C, 0x5C);
+const QColor kOnInk(0xD8, 0xDA, 0xE0);
+const QColor kPickedRow(0x37, 0x3C, 0x4A);
+const QColor kPickedEdge(0x5B, 0x9B, 0xF0);
+// The whole neighbourhood of a mark toggles, not only the mark itself.
+constexpr int kHitSlack = 3;
+}
+
+MvDemoTrackHeaders::MvDemoTrackHeaders(MvDemoPresenter* presenter, MvDemoTrackArea* area, QWidget* parent)
     : QWidget(parent)
-    , m_timeline(timeline)
+    , m_timeline(presenter->timeline())
+    , m_presenter(presenter)
     , m_area(area)
 {
-    setFixedWidth(120);
+    setFixedWidth(kWidth);
     connect(m_area, &MvDemoTrackArea::scrolled, this, qOverload<>(&QWidget::update));
 }
 
@@ -44,6 +57,25 @@ int MvDemoTrackHeaders::trackAt(const QPoint& pos) const
     return -1;
 }
 
+MvDemoTrackHeaders::Button MvDemoTrackHeaders::buttonAt(int trackIndex, const QPoint& pos) const
+{
+    const QRect row = rowRect(trackIndex);
+    if (row.isEmpty() || !row.contains(pos))
+        return Button::None;
+    // Each mark answers over the row's whole height in its column; the lock takes the rest of the
+    // row's right end.
+    const auto inColumn = [&pos](const QRect& mark) {
+        return pos.x() >= mark.left() - kHitSlack && pos.x() <= mark.right() + kHitSlack;
+    };
+    if (pos.x() >= MvDemoHeaderMarks::lockRect(row).left() - kHitSlack)
+        return Button::Lock;
+    if (inColumn(MvDemoHeaderMarks::muteRect(row)))
+        return Button::Mute;
+    if (inColumn(MvDemoHeaderMarks::eyeRect(row)))
+        return Button::Eye;
+    return Button::None;
+}
+
 QString MvDemoTrackHeaders::trackName(int trackIndex) const
 {
     int sameKind = 0;
@@ -55,6 +87,37 @@ QString MvDemoTrackHeaders::trackName(int trackIndex) const
     return track->type() == MVVBLMODEL::TrackType_Audio ? tr("Audio %1").arg(sameKind) : tr("Video %1").arg(sameKind);
 }
 
+bool MvDemoTrackHeaders::applyButton(MvTimelinePresenter* presenter, IMvTrack* track, Button button)
+{
+    if (!presenter || !track)
+        return false;
+    switch (button) {
+    case Button::Lock:
+        presenter->setLock(track, !track->isLocked());
+        return true;
+    case Button::Eye:
+        if (MVVBLMODEL::isAudioTrack(track->type()))
+            presenter->setMute(track, presenter->trackVisible(track));
+        else
+            presenter->setVisible(track, !track->isVisible());
+        return true;
+    case Button::Mute: {
+        // Asked all the same: the library keeps its own record of the refusal.
+        const bool allowed = presenter->muteEnable(track);
+        presenter->setMute(track, !track->isMuted());
+        return allowed;
+    }
+    case Button::None:
+        break;
+    }
+    return false;
+}
+
+QString MvDemoTrackHeaders::refusal(Button button)
+{
+    return button == Button::Mute ? tr("Show the track again before switching its sound.") : QString();
+}
+
 void MvDemoTrackHeaders::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
@@ -62,15 +125,30 @@ void MvDemoTrackHeaders::paintEvent(QPaintEvent* event)
     painter.fillRect(rect(), QColor(0x1F, 0x20, 0x24));
     painter.setClipRect(QRect(0, areaTop(), width(), m_area->height()));
     painter.setRenderHint(QPainter::Antialiasing, true);
-    for (int i = 0; i < m_timeline->trackCount(); ++i) {
-        const IMvTrack* track = m_timeline->trackAt(i);
-        const QRect row = rowRect(i);
-        painter.fillRect(row, QColor(0x2A, 0x2B, 0x31));
-        painter.setPen(QColor(0xE6, 0xE6, 0xE6));
-        painter.drawText(row.adjusted(8, 0, -26, 0), Qt::AlignVCenter | Qt::AlignLeft, trackName(i));
-        const QColor ink = track->isLocked() ? QColor(0xF2, 0xC9, 0x4C) : QColor(0x8A, 0x8D, 0x96);
-        painter.fillPath(MvDemoHeaderMarks::padlock(MvDemoHeaderMarks::lockRect(row), track->isLocked()), ink);
-    }
+    for (int i = 0; i < m_timeline->trackCount(); ++i)
+        paintRow(painter, i);
+}
+
+void MvDemoTrackHeaders::paintRow(QPainter& painter, int trackIndex)
+{
+    IMvTrack* track = m_timeline->trackAt(trackIndex);
+    const QRect row = rowRect(trackIndex);
+    const bool picked = m_presenter->selectedTrack() == track;
+    painter.fillRect(row, picked ? kPickedRow : QColor(0x2A, 0x2B, 0x31));
+    if (picked)
+        painter.fillRect(QRect(row.left(), row.top(), 3, row.height()), kPickedEdge);
+    painter.setPen(track->isVisible() ? QColor(0xE6, 0xE6, 0xE6) : kIdleInk);
+    painter.drawText(row.adjusted(8, 0, -(row.right() - MvDemoHeaderMarks::eyeRect(row).left() + 4), 0),
+        Qt::AlignVCenter | Qt::AlignLeft, trackName(trackIndex));
+    const bool shown = m_presenter->trackVisible(track);
+    painter.fillPath(MvDemoHeaderMarks::eye(MvDemoHeaderMarks::eyeRect(row), shown), shown ? kOnInk : kMutedInk);
+    // A row whose sound cannot be switched now keeps a faint mark.
+    const QColor muteInk = !m_presenter->muteEnable(track) ? kIdleInk.darker(160)
+        : track->isMuted()                                 ? kMutedInk
+                                                           : kOnInk;
+    painter.fillPath(MvDemoHeaderMarks::speaker(MvDemoHeaderMarks::muteRect(row), track->isMuted()), muteInk);
+    painter.fillPath(MvDemoHeaderMarks::padlock(MvDemoHeaderMarks::lockRect(row), track->isLocked()),
+        track->isLocked() ? kLockInk : kIdleInk);
 }
 
 void MvDemoTrackHeaders::mousePressEvent(QMouseEvent* event)
@@ -79,13 +157,17 @@ void MvDemoTrackHeaders::mousePressEvent(QMouseEvent* event)
         return;
     const int index = trackAt(event->pos());
     IMvTrack* track = m_timeline->trackAt(index);
-    // The whole right end of the row toggles, not only the mark itself.
-    if (!track || !MvDemoHeaderMarks::lockRect(rowRect(index)).adjusted(-8, -8, 8, 8).contains(event->pos()))
+    if (!track)
         return;
-    track->setLocked(!track->isLocked());
+    const Button button = buttonAt(index, event->pos());
+    if (button != Button::None) {
+        Q_EMIT buttonClicked(index, button);
+    } else {
+        m_presenter->setSelectedTrack(m_presenter->selectedTrack() == track ? nullptr : track);
+        Q_EMIT trackPicked();
+    }
     update();
     m_area->update();
-    Q_EMIT lockToggled();
 }
 
 void MvDemoTrackHeaders::contextMenuEvent(QContextMenuEvent* event)

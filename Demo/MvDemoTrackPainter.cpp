@@ -6,6 +6,8 @@
 #include "IMvTimeline.h"
 #include "IMvTimelinePlayhead.h"
 #include "IMvTrack.h"
+#include "MvClipHelpers.h"
+#include "MvDemoHeaderMarks.h"
 #include "MvDemoTrackArea.h"
 
 #include <QCoreApplication>
@@ -59,13 +61,18 @@ void MvDemoTrackPainter::rows()
         if (top > m_area.height() || top + track->height() < 0)
             continue;
         const QColor rowColor = track->type() == TrackType_Audio ? QColor(0x2B, 0x30, 0x2D) : QColor(0x2C, 0x2E, 0x35);
-        m_painter.fillRect(
-            QRect(0, top, m_area.width(), track->height()), track->isLocked() ? rowColor.darker(130) : rowColor);
+        const QRect row(0, top, m_area.width(), track->height());
+        m_painter.fillRect(row, track->isLocked() ? rowColor.darker(130) : rowColor);
         m_painter.save();
+        // A hidden row shows its clips faded over a hatched row.
+        if (!track->isVisible()) {
+            m_painter.fillRect(row, QBrush(QColor(0, 0, 0, 90), Qt::FDiagPattern));
+            m_painter.setOpacity(0.35);
+        }
         m_painter.setClipRect(m_area.rulerSpan());
         const QList<IMvClip*> clips = track->clips();
         for (IMvClip* item : clips)
-            clip(item, m_area.clipRect(item, i), selected.contains(item));
+            clip(item, m_area.clipRect(item, i), selected.contains(item), track->isMuted());
         for (IMvClip* item : clips)
             transitions(item, i, !selected.isEmpty());
         m_painter.restore();
@@ -88,12 +95,21 @@ void MvDemoTrackPainter::transitions(IMvClip* owner, int trackIndex, bool anySel
     }
 }
 
-void MvDemoTrackPainter::clip(IMvClip* item, const QRect& rect, bool selected)
+void MvDemoTrackPainter::clip(IMvClip* item, const QRect& rect, bool selected, bool rowMuted)
 {
     if (rect.right() < 0 || rect.left() > m_area.width())
         return;
-    const QColor color = colorOfType(item->type());
+    // A clip whose sound is off (its own switch, or its row's) is drawn dull, with a crossed speaker.
+    const bool silent = IMvClipHelper::hasAudio(item) && (item->isMuted() || rowMuted);
+    const QColor color = silent ? colorOfType(item->type()).darker(170) : colorOfType(item->type());
     m_painter.fillRect(rect, color);
+    if (silent && rect.width() > 24) {
+        const QRect mark(rect.right() - 18, rect.top() + 4, 14, 14);
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::Antialiasing, true);
+        m_painter.fillPath(MvDemoHeaderMarks::speaker(mark, true), QColor(0xE0, 0x6C, 0x5C));
+        m_painter.restore();
+    }
     if (item->groupKind() != 0)
         m_painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 3), kGuideColor);
     m_painter.setPen(selected ? QPen(Qt::white, 2) : QPen(color.lighter(140), 1));
@@ -104,6 +120,8 @@ void MvDemoTrackPainter::clip(IMvClip* item, const QRect& rect, bool selected)
     if (item->rotation() != 0)
         label
             = QCoreApplication::translate("MvDemoTrackArea", "%1 (rotated %2\u00b0)").arg(label).arg(item->rotation());
+    if (item->isRemixed())
+        label = QCoreApplication::translate("MvDemoTrackArea", "%1 (remixed)").arg(label);
     m_painter.drawText(rect.adjusted(6, 2, -4, -2), Qt::AlignLeft | Qt::AlignTop, label);
     keyFrames(item, rect);
     clipMarkers(item->clipMarkers(), rect);

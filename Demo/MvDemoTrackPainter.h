@@ -25,7 +25,7 @@ public:
     static QColor colorOfType(int clipType);
 
 private:
-    void clip(IMvClip* clip, const QRect& rect, bool selected);
+    void clip(IMvClip* clip, const QRect& rect, bool selected, bool rowMuted);
     void keyFrames(IMvClip* clip, const QRect& rect);
     void clipMarkers(IMvMarkerList* markers, const QRect& rect);
     void transitions(IMvClip* clip, int trackIndex, bool anySelected);

@@ -22,6 +22,7 @@
 #include "MvDemoRenderSimulator.h"
 #include "MvDemoScene.h"
 #include "MvDemoTimelineColumn.h"
+#include "MvDemoTimelineWindow.h"
 #include "MvDemoToastHost.h"
 #include "MvDemoTrackArea.h"
 #include "MvDemoTrackHeaders.h"
@@ -47,20 +48,20 @@ constexpr int kJournalHeight = 150;
 
 MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     : QMainWindow(parent)
-    , m_timeline(new MvMemoryTimeline(0))
+    , m_project(new MvSampleProject)
+    , m_timeline(m_project->timeline())
 {
     m_logRouter = new MvDemoLogRouter(verbose, this);
     connect(m_logRouter, &MvDemoLogRouter::journal, this, &MvDemoWindow::appendJournal);
     setWindowTitle(tr("%1[*] - MvTimeline Demo").arg(projectName()));
-    MvSampleProject::build(*m_timeline);
-    m_player = new MvDemoPlayer(m_timeline.data(), this);
+    m_player = new MvDemoPlayer(m_timeline, this);
     m_scene = new MvDemoScene(m_player, this);
     m_scene->setDialogParent(this);
     m_scene->setInteractive(interactive);
     connect(m_scene, &MvDemoScene::journal, this, &MvDemoWindow::appendJournal);
     m_toastHost = new MvDemoToastHost(this);
 
-    m_presenter = new MvDemoPresenter(this, m_timeline.data());
+    m_presenter = new MvDemoPresenter(this, m_timeline);
     m_presenter->setScene(m_scene);
     connect(m_presenter, &MvDemoPresenter::actionsNeedRefresh, this, &MvDemoWindow::refreshActions);
     connect(m_presenter, &MvTimelinePresenter::sigActionStatusChanged, this, &MvDemoWindow::refreshActions);
@@ -88,6 +89,8 @@ MvDemoWindow::~MvDemoWindow()
     // reporting to this window first: they are taken apart before it is.
     ruler()->removeEventFilter(this);
     trackArea()->removeEventFilter(this);
+    // The windows over the project's other timelines go before the project does.
+    qDeleteAll(m_timelineWindows);
     delete centralWidget();
     delete m_markerPresenter;
     delete m_playheadPresenter;
@@ -126,8 +129,8 @@ void MvDemoWindow::buildLayout()
     m_markerPresenter = new MvDemoMarkerPresenter(m_presenter, this);
     m_playheadPresenter = new MvDemoPlayheadPresenter(m_presenter, this);
     m_column = new MvDemoTimelineColumn(m_presenter, m_rulerPresenter, m_markerPresenter, m_playheadPresenter, central);
-    m_renderSimulator = new MvDemoRenderSimulator(m_timeline.data(), this);
-    m_headers = new MvDemoTrackHeaders(m_timeline.data(), trackArea(), central);
+    m_renderSimulator = new MvDemoRenderSimulator(m_timeline, this);
+    m_headers = new MvDemoTrackHeaders(m_presenter, trackArea(), central);
     rows->addWidget(m_headers);
     rows->addWidget(m_column, 1);
     setCentralWidget(central);
@@ -176,7 +179,8 @@ void MvDemoWindow::connectViews()
                                                                       : MvDemoContextMenus::Place::EmptySpace,
                 globalPos);
         });
-    connect(m_headers, &MvDemoTrackHeaders::lockToggled, this, &MvDemoWindow::viewsChanged);
+    connect(m_headers, &MvDemoTrackHeaders::buttonClicked, this, &MvDemoWindow::headerButton);
+    connect(m_headers, &MvDemoTrackHeaders::trackPicked, this, &MvDemoWindow::trackPicked);
     connect(m_headers, &MvDemoTrackHeaders::contextMenuRequested, this, &MvDemoWindow::showTrackMenu);
     connect(ruler(), &QWidget::customContextMenuRequested, this, &MvDemoWindow::showRulerMenu);
     connect(m_playheadPresenter, &MvTimelinePlayheadPresenter::sigStartDragPlayHead, m_player, &MvDemoPlayer::pause);
@@ -238,7 +242,7 @@ void MvDemoWindow::runCommand(const QString& name, const Command& command)
     QAction* action = m_actions.value(name);
     appendJournal(tr("command: %1").arg(action ? action->text().remove(QLatin1Char('&')) : name));
     // The reason is read before the command runs: afterwards the state may have moved on.
-    const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).reason(name);
+    const QString reason = MvDemoRefusals(m_timeline, m_presenter).reason(name);
     if (!command() && !reason.isEmpty())
         tellRefusal(reason);
     viewsChanged();
@@ -246,7 +250,7 @@ void MvDemoWindow::runCommand(const QString& name, const Command& command)
 
 bool MvDemoWindow::moveSelection(qint64 frameOffset, int trackOffset)
 {
-    const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).moveReason(frameOffset, trackOffset);
+    const QString reason = MvDemoRefusals(m_timeline, m_presenter).moveReason(frameOffset, trackOffset);
     appendJournal(tr("drag: move the selection by %1 frames and %2 rows").arg(frameOffset).arg(trackOffset));
     // A diagonal drag takes two commands; when one of them would be refused the clips would end
     // up half moved, so such a drag is not started at all.
@@ -294,7 +298,7 @@ bool MvDemoWindow::explainDisabledShortcut(const QKeySequence& keys)
         QAction* action = it.value();
         if (action->isEnabled() || action->shortcut().isEmpty() || action->shortcut() != keys)
             continue;
-        const QString reason = MvDemoRefusals(m_timeline.data(), m_presenter).reason(it.key());
+        const QString reason = MvDemoRefusals(m_timeline, m_presenter).reason(it.key());
         tellRefusal(
             reason.isEmpty() ? tr("%1 is not available now.").arg(action->text().remove(QLatin1Char('&'))) : reason);
         return true;
@@ -364,6 +368,7 @@ void MvDemoWindow::refreshActions()
     setWindowModified(undo->canUndo());
     refreshEditActions();
     refreshPanelActions();
+    refreshClipboardActions();
     refreshStatus();
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "MvDemoContextMenus.h"
+#include "MvDemoTrackHeaders.h"
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 #include <QScopedPointer>
 
 #include <functional>
@@ -18,6 +20,7 @@ class IMvTrack;
 class MvMemoryMediaItem;
 class MvMemoryMediaLibrary;
 class MvMemoryTimeline;
+class MvSampleProject;
 class MvDemoMediaDrop;
 class MvDemoMediaPanel;
 class MvDemoMediaScene;
@@ -31,6 +34,7 @@ class MvDemoPropertiesDock;
 class MvDemoRenderSimulator;
 class MvDemoScene;
 class MvDemoTimelineColumn;
+class MvDemoTimelineWindow;
 class MvDemoToastHost;
 class MvDemoTrackArea;
 class MvDemoTrackHeaders;
@@ -54,7 +58,12 @@ public:
 
     static QString projectName();
 
-    MvMemoryTimeline* timeline() const { return m_timeline.data(); }
+    MvMemoryTimeline* timeline() const { return m_timeline; }
+    // The project's timelines: the one this window edits, the sequence of its compound clip and
+    // the timeline of another project.
+    MvSampleProject* project() const { return m_project.data(); }
+    // The window open over another timeline of the projects, or null.
+    MvDemoTimelineWindow* timelineWindow(const MvMemoryTimeline* timeline) const;
     MvDemoPresenter* presenter() const { return m_presenter; }
     MvDemoTimelineColumn* column() const { return m_column; }
     MvDemoTrackArea* trackArea() const;
@@ -104,6 +113,16 @@ private:
     void buildPanels();
     void buildPanelMenu();
     void refreshPanelActions();
+    // The clipboard, the track marks, audio, empty tracks and the windows over other timelines
+    // (MvDemoClipboardActions.cpp).
+    void buildClipboardActions(QMenu* edit);
+    void buildAudioActions(QMenu* clip);
+    void buildTimelineMenu();
+    void refreshClipboardActions();
+    void headerButton(int trackIndex, MvDemoTrackHeaders::Button button);
+    void trackPicked();
+    bool openCompound();
+    MvDemoTimelineWindow* openTimelineWindow(MvMemoryTimeline* timeline, const QString& title);
     // The media panel, its drop target on the tracks and the media questions of the scene
     // (MvDemoMediaActions.cpp).
     void buildMediaPanel(bool interactive);
@@ -126,7 +145,9 @@ private:
     void viewsChanged();
     void keepTracksInSight();
 
-    QScopedPointer<MvMemoryTimeline> m_timeline;
+    QScopedPointer<MvSampleProject> m_project;
+    MvMemoryTimeline* m_timeline = nullptr;
+    QHash<const MvMemoryTimeline*, QPointer<MvDemoTimelineWindow>> m_timelineWindows;
     MvDemoLogRouter* m_logRouter = nullptr;
     MvDemoPlayer* m_player = nullptr;
     MvDemoScene* m_scene = nullptr;

@@ -98,7 +98,7 @@ void randomEdit(MvMemoryTimeline& timeline, QRandomGenerator& random)
     MvMemoryClip* other = live.at(random.bounded(live.size()));
     const qint64 inside = clip->start() + random.bounded(int(clip->frameCount()));
     QList<IMvClip*> pieces;
-    switch (random.bounded(8)) {
+    switch (random.bounded(10)) {
     case 0:
     case 1:
         timeline.moveClips({ clip, other }, { 0, random.bounded(3) - 1 }, random.bounded(121) - 60, 2);
@@ -117,6 +117,14 @@ void randomEdit(MvMemoryTimeline& timeline, QRandomGenerator& random)
         timeline.trimEndToFrame(other, other->start() + 3);
         break;
     case 6:
+        timeline.editService()->cut({ clip, other });
+        timeline.editService()->paste(inside, -1, pieces, 0, 3);
+        break;
+    case 7:
+        timeline.editService()->copy({ clip });
+        timeline.editService()->paste(inside, clip->trackIndex(), pieces, 0, 3);
+        break;
+    case 8:
         timeline.undoRedoService()->undo();
         break;
     default:

@@ -8,6 +8,7 @@
 #include "Memory/MvMemoryUndoRecorder.h"
 #include "Memory/MvMemoryUndoService.h"
 #include "Memory/MvSampleProject.h"
+#include "MvClipHelpers.h"
 
 #include <QtTest>
 
@@ -178,12 +179,49 @@ QMap<QString, Command> stepEdits()
     };
 }
 
+QMap<QString, Command> clipboardAndTrackEdits()
+{
+    return {
+        { QStringLiteral("cut and paste what clips carry"),
+            { 2,
+                [](Sample& s) {
+                    s.t.editService()->cut(
+                        { s.clip("Harbour at dawn"), s.clip("Harbour at dawn (sound)"), s.clip("Market street") });
+                    QList<IMvClip*> pasted;
+                    s.t.editService()->paste(3000, -1, pasted, 0, 3);
+                } } },
+        { QStringLiteral("paste transitions"),
+            { 1,
+                [](Sample& s) {
+                    s.t.editService()->copy({ s.clip("Market street")->liveTransitions().value(0) });
+                    QList<IMvTransition*> pasted;
+                    s.t.editService()->pasteTransitions(pasted, { s.clip("Fishing boats"), s.clip("Logo") });
+                } } },
+        { QStringLiteral("track switches and clip mute"),
+            { 3,
+                [](Sample& s) {
+                    s.t.trackAt(3)->setMuted(true);
+                    s.t.trackAt(0)->setVisible(false, true);
+                    s.clip("Theme")->setMuted(1);
+                } } },
+        { QStringLiteral("detach audio, add and clear rows, clear remix"),
+            { 4,
+                [](Sample& s) {
+                    s.t.detachAudio(s.clip("Harbour at dawn"), 0);
+                    static_cast<IMvTimeline&>(s.t).addTrack(TrackType_Picture, 0);
+                    s.t.clearEmptyTracks();
+                    MvAudioRemixHelper::clearRemix(s.clip("Theme"));
+                } } },
+    };
+}
+
 const QMap<QString, Command>& commands()
 {
     static const QMap<QString, Command> all = [] {
         QMap<QString, Command> both = clipEdits();
         both.insert(itemEdits());
         both.insert(stepEdits());
+        both.insert(clipboardAndTrackEdits());
         return both;
     }();
     return all;

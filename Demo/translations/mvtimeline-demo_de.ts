@@ -8,7 +8,7 @@
         <translation>Das eingebaute Szenario abspielen, Bildschirmfotos und Protokoll speichern, dann beenden.</translation>
     </message>
     <message>
-        <source>Folder for the scenario&apos;s files.</source>
+        <source>Folder for the scenario's files.</source>
         <translation>Ordner für die Dateien des Szenarios.</translation>
     </message>
     <message>
@@ -16,11 +16,11 @@
         <translation>ordner</translation>
     </message>
     <message>
-        <source>Print the library&apos;s detail and note records too, not only its warnings and refusals.</source>
+        <source>Print the library's detail and note records too, not only its warnings and refusals.</source>
         <translation>Auch die Detail- und Hinweiseinträge der Bibliothek ausgeben, nicht nur ihre Warnungen und Ablehnungen.</translation>
     </message>
     <message>
-        <source>Show the demo in this language (for instance de or fr) instead of the system&apos;s.</source>
+        <source>Show the demo in this language (for instance de or fr) instead of the system's.</source>
         <translation>Die Demo in dieser Sprache zeigen (etwa de oder fr) statt in der des Systems.</translation>
     </message>
     <message>
@@ -127,7 +127,7 @@
         <translation>die Auflösung eines VCG-Mediums wählen</translation>
     </message>
     <message>
-        <source>offer the media&apos;s settings to the project</source>
+        <source>offer the media's settings to the project</source>
         <translation>dem Projekt die Einstellungen des Mediums anbieten</translation>
     </message>
     <message>
@@ -170,7 +170,7 @@
         <translation>Bibliothek</translation>
     </message>
     <message>
-        <source>Find Similar asks the media library for resources like the one a clip was made from. The library&apos;s answers would be listed here; the requests are:</source>
+        <source>Find Similar asks the media library for resources like the one a clip was made from. The library's answers would be listed here; the requests are:</source>
         <translation>„Ähnliche suchen“ fragt die Medienbibliothek nach Ressourcen wie der, aus der ein Clip entstand. Die Antworten der Bibliothek stünden hier; die Anfragen sind:</translation>
     </message>
     <message>
@@ -389,7 +389,7 @@
         <translation>Einen Clip mit Ton auswählen.</translation>
     </message>
     <message>
-        <source>Colour grading of “%1”: the editor&apos;s colour wheels and curves would open here.</source>
+        <source>Colour grading of “%1”: the editor's colour wheels and curves would open here.</source>
         <translation>Farbkorrektur von „%1“: Farbräder und Kurven des Editors würden sich hier öffnen.</translation>
     </message>
     <message>
@@ -619,7 +619,7 @@
         <translation>„%1“ ist ein eigenes Medium: Die Bibliothek findet nur Ressourcen wie ihre eigenen.</translation>
     </message>
     <message>
-        <source>The library&apos;s similarity search does not know “%1”.</source>
+        <source>The library's similarity search does not know “%1”.</source>
         <translation>Die Ähnlichkeitssuche der Bibliothek kennt „%1“ nicht.</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@
         <translation>Die Clips beginnen schon am Anfang der Zeitleiste.</translation>
     </message>
     <message>
-        <source>There is no track of the clips&apos; kind there.</source>
+        <source>There is no track of the clips' kind there.</source>
         <translation>Dort gibt es keine Spur für diese Art von Clips.</translation>
     </message>
     <message>
@@ -762,6 +762,46 @@
         <source>There is nothing to redo.</source>
         <translation>Es gibt nichts wiederherzustellen.</translation>
     </message>
+    <message>
+        <source>Copy or cut something first.</source>
+        <translation>Zuerst etwas kopieren oder ausschneiden.</translation>
+    </message>
+    <message>
+        <source>Select the clips to put the copied transition on.</source>
+        <translation>Die Clips auswählen, auf die der kopierte Übergang soll.</translation>
+    </message>
+    <message>
+        <source>Select the clips or the transition to cut.</source>
+        <translation>Die Clips oder den Übergang zum Ausschneiden auswählen.</translation>
+    </message>
+    <message>
+        <source>Select the clips or the transition to copy.</source>
+        <translation>Die Clips oder den Übergang zum Kopieren auswählen.</translation>
+    </message>
+    <message>
+        <source>Select a clip with sound to mute it.</source>
+        <translation>Einen Clip mit Ton auswählen, um ihn stummzuschalten.</translation>
+    </message>
+    <message>
+        <source>Select a video clip with its sound to detach the audio.</source>
+        <translation>Einen Videoclip mit Ton auswählen, um den Ton abzutrennen.</translation>
+    </message>
+    <message>
+        <source>Select a remixed music clip first.</source>
+        <translation>Zuerst einen geremixten Musikclip auswählen.</translation>
+    </message>
+    <message>
+        <source>"%1" has no remix.</source>
+        <translation>„%1“ hat keinen Remix.</translation>
+    </message>
+    <message>
+        <source>Select a compound clip to open it.</source>
+        <translation>Einen zusammengesetzten Clip auswählen, um ihn zu öffnen.</translation>
+    </message>
+    <message>
+        <source>There is no empty track besides the ones that always stay.</source>
+        <translation>Außer den festen Spuren gibt es keine leere Spur.</translation>
+    </message>
 </context>
 <context>
     <name>MvDemoScene</name>
@@ -815,6 +855,49 @@
     </message>
 </context>
 <context>
+    <name>MvDemoTimelineWindow</name>
+    <message>
+        <source>command in %1: %2</source>
+        <translation>Befehl in %1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Close &amp;Window</source>
+        <translation>&amp;Fenster schließen</translation>
+    </message>
+</context>
+<context>
     <name>MvDemoTrackArea</name>
     <message>
         <source>Unnamed marker</source>
@@ -828,6 +911,10 @@
         <source>virtual playhead</source>
         <translation>virtueller Abspielkopf</translation>
     </message>
+    <message>
+        <source>%1 (remixed)</source>
+        <translation>%1 (geremixt)</translation>
+    </message>
 </context>
 <context>
     <name>MvDemoTrackHeaders</name>
@@ -838,6 +925,10 @@
     <message>
         <source>Video %1</source>
         <translation>Video %1</translation>
+    </message>
+    <message>
+        <source>Show the track again before switching its sound.</source>
+        <translation>Die Spur erst wieder einblenden, bevor ihr Ton umgeschaltet wird.</translation>
     </message>
 </context>
 <context>
@@ -997,6 +1088,62 @@
     <message>
         <source>Unlock Track</source>
         <translation>Spur entsperren</translation>
+    </message>
+    <message>
+        <source>Detach Audio</source>
+        <translation>Ton abtrennen</translation>
+    </message>
+    <message>
+        <source>Mute Clips</source>
+        <translation>Clips stummschalten</translation>
+    </message>
+    <message>
+        <source>Clear Empty Tracks</source>
+        <translation>Leere Spuren entfernen</translation>
+    </message>
+    <message>
+        <source>Clear Remix</source>
+        <translation>Remix entfernen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Hide Track</source>
+        <translation>Spur ausblenden</translation>
+    </message>
+    <message>
+        <source>Mute Clip</source>
+        <translation>Clip stummschalten</translation>
+    </message>
+    <message>
+        <source>Mute Track</source>
+        <translation>Spur stummschalten</translation>
+    </message>
+    <message>
+        <source>Paste Transitions</source>
+        <translation>Übergänge einfügen</translation>
+    </message>
+    <message>
+        <source>Remix</source>
+        <translation>Remix</translation>
+    </message>
+    <message>
+        <source>Show Track</source>
+        <translation>Spur einblenden</translation>
+    </message>
+    <message>
+        <source>Unmute Clip</source>
+        <translation>Clip hörbar machen</translation>
+    </message>
+    <message>
+        <source>Unmute Track</source>
+        <translation>Spur hörbar machen</translation>
     </message>
 </context>
 <context>
@@ -1316,6 +1463,94 @@
     <message>
         <source>Playhead %1 (frame %2)   Selected items: %3   Undo steps: %4</source>
         <translation>Abspielkopf %1 (Frame %2)   Ausgewählt: %3   Rückgängig-Schritte: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>D&amp;uplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Hide Track</source>
+        <translation>Spur aus&amp;blenden</translation>
+    </message>
+    <message>
+        <source>&amp;Mute Track</source>
+        <translation>Spur s&amp;tummschalten</translation>
+    </message>
+    <message>
+        <source>&amp;Mute Clips</source>
+        <translation>Clips s&amp;tummschalten</translation>
+    </message>
+    <message>
+        <source>Detach &amp;Audio</source>
+        <translation>&amp;Ton abtrennen</translation>
+    </message>
+    <message>
+        <source>Clear Re&amp;mix</source>
+        <translation>Re&amp;mix entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>&amp;Zeitleiste</translation>
+    </message>
+    <message>
+        <source>Clear &amp;Empty Tracks</source>
+        <translation>&amp;Leere Spuren entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Compound Clip</source>
+        <translation>Zusammengesetzten Clip &amp;öffnen</translation>
+    </message>
+    <message>
+        <source>Open Another &amp;Project's Timeline</source>
+        <translation>Zeitleiste eines anderen &amp;Projekts öffnen</translation>
+    </message>
+    <message>
+        <source>%1 (another project)</source>
+        <translation>%1 (anderes Projekt)</translation>
+    </message>
+    <message>
+        <source>Un&amp;mute Clips</source>
+        <translation>Clips &amp;hörbar machen</translation>
+    </message>
+    <message>
+        <source>&amp;Silence Track</source>
+        <translation>Spur &amp;still schalten</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Track</source>
+        <translation>Spur &amp;hörbar schalten</translation>
+    </message>
+    <message>
+        <source>&amp;Show Track</source>
+        <translation>Spur &amp;einblenden</translation>
+    </message>
+    <message>
+        <source>Un&amp;mute Track</source>
+        <translation>Spur &amp;laut schalten</translation>
+    </message>
+    <message>
+        <source>track picked: %1</source>
+        <translation>Spur gewählt: %1</translation>
+    </message>
+    <message>
+        <source>no track picked</source>
+        <translation>keine Spur gewählt</translation>
+    </message>
+    <message>
+        <source>%1 (compound clip)</source>
+        <translation>%1 (zusammengesetzter Clip)</translation>
     </message>
 </context>
 </TS>

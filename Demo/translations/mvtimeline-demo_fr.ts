@@ -8,7 +8,7 @@
         <translation>Jouer le scénario intégré, enregistrer les captures d’écran et le journal, puis quitter.</translation>
     </message>
     <message>
-        <source>Folder for the scenario&apos;s files.</source>
+        <source>Folder for the scenario's files.</source>
         <translation>Dossier des fichiers du scénario.</translation>
     </message>
     <message>
@@ -16,11 +16,11 @@
         <translation>dossier</translation>
     </message>
     <message>
-        <source>Print the library&apos;s detail and note records too, not only its warnings and refusals.</source>
+        <source>Print the library's detail and note records too, not only its warnings and refusals.</source>
         <translation>Afficher aussi les entrées de détail et de note de la bibliothèque, pas seulement ses avertissements et refus.</translation>
     </message>
     <message>
-        <source>Show the demo in this language (for instance de or fr) instead of the system&apos;s.</source>
+        <source>Show the demo in this language (for instance de or fr) instead of the system's.</source>
         <translation>Afficher la démo dans cette langue (par exemple de ou fr) au lieu de celle du système.</translation>
     </message>
     <message>
@@ -127,7 +127,7 @@
         <translation>choisir la résolution d’un média VCG</translation>
     </message>
     <message>
-        <source>offer the media&apos;s settings to the project</source>
+        <source>offer the media's settings to the project</source>
         <translation>proposer au projet les réglages du média</translation>
     </message>
     <message>
@@ -170,7 +170,7 @@
         <translation>Bibliothèque</translation>
     </message>
     <message>
-        <source>Find Similar asks the media library for resources like the one a clip was made from. The library&apos;s answers would be listed here; the requests are:</source>
+        <source>Find Similar asks the media library for resources like the one a clip was made from. The library's answers would be listed here; the requests are:</source>
         <translation>« Rechercher des similaires » demande à la médiathèque des ressources semblables à celle dont un clip est issu. Ses réponses s’afficheraient ici ; les demandes sont :</translation>
     </message>
     <message>
@@ -389,7 +389,7 @@
         <translation>Sélectionnez un clip avec du son.</translation>
     </message>
     <message>
-        <source>Colour grading of “%1”: the editor&apos;s colour wheels and curves would open here.</source>
+        <source>Colour grading of “%1”: the editor's colour wheels and curves would open here.</source>
         <translation>Étalonnage de « %1 » : les roues chromatiques et les courbes de l’éditeur s’ouvriraient ici.</translation>
     </message>
     <message>
@@ -619,7 +619,7 @@
         <translation>« %1 » est votre propre média : la bibliothèque ne trouve que des ressources semblables aux siennes.</translation>
     </message>
     <message>
-        <source>The library&apos;s similarity search does not know “%1”.</source>
+        <source>The library's similarity search does not know “%1”.</source>
         <translation>La recherche de similarité de la bibliothèque ne connaît pas « %1 ».</translation>
     </message>
     <message>
@@ -695,7 +695,7 @@
         <translation>Les clips commencent déjà au début de la timeline.</translation>
     </message>
     <message>
-        <source>There is no track of the clips&apos; kind there.</source>
+        <source>There is no track of the clips' kind there.</source>
         <translation>Il n’y a pas de piste du type de ces clips à cet endroit.</translation>
     </message>
     <message>
@@ -762,6 +762,46 @@
         <source>There is nothing to redo.</source>
         <translation>Il n’y a rien à rétablir.</translation>
     </message>
+    <message>
+        <source>Copy or cut something first.</source>
+        <translation>Copiez ou coupez d’abord quelque chose.</translation>
+    </message>
+    <message>
+        <source>Select the clips to put the copied transition on.</source>
+        <translation>Sélectionnez les clips où placer la transition copiée.</translation>
+    </message>
+    <message>
+        <source>Select the clips or the transition to cut.</source>
+        <translation>Sélectionnez les clips ou la transition à couper.</translation>
+    </message>
+    <message>
+        <source>Select the clips or the transition to copy.</source>
+        <translation>Sélectionnez les clips ou la transition à copier.</translation>
+    </message>
+    <message>
+        <source>Select a clip with sound to mute it.</source>
+        <translation>Sélectionnez un clip avec du son pour le rendre muet.</translation>
+    </message>
+    <message>
+        <source>Select a video clip with its sound to detach the audio.</source>
+        <translation>Sélectionnez un clip vidéo avec son pour en détacher l’audio.</translation>
+    </message>
+    <message>
+        <source>Select a remixed music clip first.</source>
+        <translation>Sélectionnez d’abord un clip musical remixé.</translation>
+    </message>
+    <message>
+        <source>"%1" has no remix.</source>
+        <translation>« %1 » n’a pas de remix.</translation>
+    </message>
+    <message>
+        <source>Select a compound clip to open it.</source>
+        <translation>Sélectionnez un clip composé pour l’ouvrir.</translation>
+    </message>
+    <message>
+        <source>There is no empty track besides the ones that always stay.</source>
+        <translation>Il n’y a pas de piste vide en dehors de celles qui restent toujours.</translation>
+    </message>
 </context>
 <context>
     <name>MvDemoScene</name>
@@ -815,6 +855,49 @@
     </message>
 </context>
 <context>
+    <name>MvDemoTimelineWindow</name>
+    <message>
+        <source>command in %1: %2</source>
+        <translation>commande dans %1 : %2</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Dupliquer</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Close &amp;Window</source>
+        <translation>&amp;Fermer la fenêtre</translation>
+    </message>
+</context>
+<context>
     <name>MvDemoTrackArea</name>
     <message>
         <source>Unnamed marker</source>
@@ -828,6 +911,10 @@
         <source>virtual playhead</source>
         <translation>tête de lecture virtuelle</translation>
     </message>
+    <message>
+        <source>%1 (remixed)</source>
+        <translation>%1 (remixé)</translation>
+    </message>
 </context>
 <context>
     <name>MvDemoTrackHeaders</name>
@@ -838,6 +925,10 @@
     <message>
         <source>Video %1</source>
         <translation>Vidéo %1</translation>
+    </message>
+    <message>
+        <source>Show the track again before switching its sound.</source>
+        <translation>Réaffichez la piste avant de changer son son.</translation>
     </message>
 </context>
 <context>
@@ -997,6 +1088,62 @@
     <message>
         <source>Unlock Track</source>
         <translation>Déverrouiller la piste</translation>
+    </message>
+    <message>
+        <source>Detach Audio</source>
+        <translation>Détacher l’audio</translation>
+    </message>
+    <message>
+        <source>Mute Clips</source>
+        <translation>Rendre les clips muets</translation>
+    </message>
+    <message>
+        <source>Clear Empty Tracks</source>
+        <translation>Supprimer les pistes vides</translation>
+    </message>
+    <message>
+        <source>Clear Remix</source>
+        <translation>Effacer le remix</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Hide Track</source>
+        <translation>Masquer la piste</translation>
+    </message>
+    <message>
+        <source>Mute Clip</source>
+        <translation>Rendre le clip muet</translation>
+    </message>
+    <message>
+        <source>Mute Track</source>
+        <translation>Rendre la piste muette</translation>
+    </message>
+    <message>
+        <source>Paste Transitions</source>
+        <translation>Coller les transitions</translation>
+    </message>
+    <message>
+        <source>Remix</source>
+        <translation>Remix</translation>
+    </message>
+    <message>
+        <source>Show Track</source>
+        <translation>Afficher la piste</translation>
+    </message>
+    <message>
+        <source>Unmute Clip</source>
+        <translation>Rétablir le son du clip</translation>
+    </message>
+    <message>
+        <source>Unmute Track</source>
+        <translation>Rétablir le son de la piste</translation>
     </message>
 </context>
 <context>
@@ -1316,6 +1463,94 @@
     <message>
         <source>Playhead %1 (frame %2)   Selected items: %3   Undo steps: %4</source>
         <translation>Tête de lecture %1 (image %2)   Éléments sélectionnés : %3   Étapes d’annulation : %4</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>D&amp;upliquer</translation>
+    </message>
+    <message>
+        <source>&amp;Hide Track</source>
+        <translation>&amp;Masquer la piste</translation>
+    </message>
+    <message>
+        <source>&amp;Mute Track</source>
+        <translation>Rendre la piste &amp;muette</translation>
+    </message>
+    <message>
+        <source>&amp;Mute Clips</source>
+        <translation>Rendre les clips &amp;muets</translation>
+    </message>
+    <message>
+        <source>Detach &amp;Audio</source>
+        <translation>Détacher l’&amp;audio</translation>
+    </message>
+    <message>
+        <source>Clear Re&amp;mix</source>
+        <translation>Effacer le re&amp;mix</translation>
+    </message>
+    <message>
+        <source>&amp;Timeline</source>
+        <translation>&amp;Timeline</translation>
+    </message>
+    <message>
+        <source>Clear &amp;Empty Tracks</source>
+        <translation>Supprimer les pistes &amp;vides</translation>
+    </message>
+    <message>
+        <source>&amp;Open Compound Clip</source>
+        <translation>&amp;Ouvrir le clip composé</translation>
+    </message>
+    <message>
+        <source>Open Another &amp;Project's Timeline</source>
+        <translation>Ouvrir la timeline d’un autre &amp;projet</translation>
+    </message>
+    <message>
+        <source>%1 (another project)</source>
+        <translation>%1 (autre projet)</translation>
+    </message>
+    <message>
+        <source>Un&amp;mute Clips</source>
+        <translation>Rétablir le son des &amp;clips</translation>
+    </message>
+    <message>
+        <source>&amp;Silence Track</source>
+        <translation>&amp;Couper le son de la piste</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Track</source>
+        <translation>&amp;Entendre la piste</translation>
+    </message>
+    <message>
+        <source>&amp;Show Track</source>
+        <translation>&amp;Afficher la piste</translation>
+    </message>
+    <message>
+        <source>Un&amp;mute Track</source>
+        <translation>Rétablir le son de la &amp;piste</translation>
+    </message>
+    <message>
+        <source>track picked: %1</source>
+        <translation>piste choisie : %1</translation>
+    </message>
+    <message>
+        <source>no track picked</source>
+        <translation>aucune piste choisie</translation>
+    </message>
+    <message>
+        <source>%1 (compound clip)</source>
+        <translation>%1 (clip composé)</translation>
     </message>
 </context>
 </TS>

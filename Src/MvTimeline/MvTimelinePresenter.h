@@ -138,6 +138,33 @@ public:
     // Raises a toast with an already translated text over the view (ShowCustomToast).
     void showToast(QString text);
 
+    // Clipboard of timeline items. A paste goes to the playhead (clips) or onto the selected clips
+    // (transitions), as the last copy or cut decides.
+    void copySelectedClips();
+    void cutSelectedClips();
+    void pasteClips();
+    void duplicateClip();
+    bool canPasteClip() const;
+
+    // Track commands, from the track headers and the track menu of the view.
+    void setLock(IMvTrack* track, bool lock);
+    void setMute(IMvTrack* track, bool mute);
+    void setVisible(IMvTrack* track, bool visible);
+    // A hidden picture row keeps its mute state; audio rows can always be muted.
+    bool muteEnable(IMvTrack* track) const;
+    // What the row's eye button shows: for an audio row, that it is heard.
+    bool trackVisible(IMvTrack* track) const;
+    // Switches the sound of the selected clips, as one step.
+    void setMute(bool mute);
+    // Whether every selected clip with sound is muted.
+    bool mute();
+    void clearEmptyTracks();
+    bool canClearEmptyTracks() const;
+
+    // Audio of the selection: the sound of picture clips onto audio rows, a clip's remix.
+    void detachSelectedAudio();
+    bool detachSelectedAudioEnabled();
+    void clearRemix();
     // Media insertion: prepares the request's items (download, resolution, zero length), offers
     // the project-settings match, inserts them with the policy and tells the scene; returns the
     // clips created (empty on any failure). The caller's request is left as it is.
@@ -217,6 +244,9 @@ protected:
     void switchMediaPlayerToTimeline();
 
 private:
+    void pasteNormalClip();
+    void pasteTransition();
+
     Q_DECLARE_PRIVATE(MvTimelinePresenter)
     Q_DISABLE_COPY(MvTimelinePresenter)
     QScopedPointer<MvTimelinePresenterPrivate> d_ptr;

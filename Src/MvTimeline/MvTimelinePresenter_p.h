@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 
+class IMvAbstractClip;
 #include <functional>
 #include <memory>
 
@@ -100,6 +101,29 @@ public:
     // Tracks (MvTimelinePresenterTracks.cpp).
     void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);
     int calcDetachAudioTrackIndex(IMvClip* clip) const;
+    void setLock(IMvTrack* track, bool lock);
+    void setMute(IMvTrack* track, bool mute);
+    void setVisible(IMvTrack* track, bool visible);
+    bool muteEnable(IMvTrack* track) const;
+    bool trackVisible(IMvTrack* track) const;
+    void setMute(bool mute);
+    bool mute() const;
+    void clearEmptyTracks();
+    bool canClearEmptyTracks() const;
+
+    // Clipboard (MvTimelinePresenterClipboard.cpp).
+    void rebuildCopiedClipTypes(const QList<IMvAbstractClip*>& items);
+    void copySelectedClips();
+    void cutSelectedClips();
+    void pasteClips();
+    bool canPasteClip() const;
+    void pasteNormalClip();
+    void pasteTransition();
+
+    // Audio (MvTimelinePresenterAudio.cpp).
+    void detachSelectedAudio();
+    bool detachSelectedAudioEnabled() const;
+    void clearRemix();
 
     // Library resources (MvTimelinePresenterSimilarResource.cpp).
     bool canSearchSimilarResource() const;

@@ -51,6 +51,7 @@ public:
     QList<IMvClip*> selectedClips() const override { return m_inner->selectedClips(); }
     IMvAbstractClip* currentItem() const override { return m_inner->currentItem(); }
     bool isTimelineSelected() const override { return m_inner->isTimelineSelected(); }
+    IMvAbstractClip* itemAt(int index) const override { return m_inner->itemAt(index); }
 
 private:
     const MvRecordingTimeline* m_owner;

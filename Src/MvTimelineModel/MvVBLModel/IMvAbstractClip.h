@@ -2,6 +2,7 @@
 
 #include "MvVBLModelGlobal.h"
 #include "IMvKeyFrameSelector.h"
+#include "MvRange.h"
 
 #include <QList>
 #include <QMetaType>
@@ -29,6 +30,9 @@ public:
 
     // Library resources: what the item was made from, null for the user's own media.
     virtual IMvResourceInfo* resourceInfo() const = 0;
+
+    // Track commands: the frames the item covers, start() .. end().
+    virtual void range(MvRange<qint64>& range) const = 0;
 };
 
 // The transitions carried by one clip.
@@ -87,6 +91,13 @@ public:
     // Composed texts: a secondary layer supports the main lines of its composed item (a caption
     // under a name); a clip on a track is never secondary.
     virtual bool isSecondary() const = 0;
+
+    // Track commands and audio: the clip's own sound switch (value 0 or 1) and its music remix.
+    virtual bool isMuted() const = 0;
+    virtual void setMuted(quint16 muted) = 0;
+    virtual bool isRemixed() const = 0;
+    // Takes the remix off the clip; false when it has none or its track is locked.
+    virtual bool removeRemix() = 0;
 };
 
 Q_DECLARE_METATYPE(IMvClip*)

@@ -4,13 +4,31 @@
 
 #include <QList>
 
+class IMvAbstractClip;
 class IMvClip;
+class IMvTransition;
 
-// Grouping of clips that move and edit together. A clip is in at most one group.
+// The clip clipboard, and the grouping of clips that move and edit together (a clip is in at most
+// one group).
 class MVVBLMODEL_EXPORT IMvClipEditService
 {
 public:
     virtual ~IMvClipEditService();
+
+    // The clipboard holds value copies of the items (clips with everything they carry,
+    // transitions); a copy replaces what it held.
+    virtual void copy(QList<IMvAbstractClip*> items) = 0;
+    // Copies the items, then takes them off the timeline, as one undo step.
+    virtual void cut(QList<IMvAbstractClip*> items) = 0;
+    virtual bool canPaste() const = 0;
+    // Puts the copied clips on the timeline from frame on, as one undo step, and lists the new
+    // clips. Answers flags: 8 a compound clip was left out because the timeline is (or lies inside)
+    // its content, 4 one was left out because its content belongs to another project.
+    virtual int paste(qint64 frame, int trackIndex, QList<IMvClip*>& pastedClips, MVVBLMODEL::MvTrackType trackType,
+        int mode)
+        = 0;
+    // Puts the copied transitions onto every target clip, as one undo step, and lists them.
+    virtual void pasteTransitions(QList<IMvTransition*>& pasted, QList<IMvClip*> targetClips) = 0;
 
     // The clip's group members, the clip included; empty when the clip is in no group.
     // includeUngrouped adds the clip itself even when it is in no group.

@@ -27,6 +27,9 @@ public:
     // True when the timeline itself (its ruler area) is the target of item commands.
     virtual bool isTimelineSelected() const = 0;
     virtual void setTimelineSelected(bool selected) = 0;
+
+    // Track commands: the selected item at a place in selection order, null out of range.
+    virtual IMvAbstractClip* itemAt(int index) const = 0;
 };
 
 // Selection of one sub-item (a freeze frame, ...) inside a clip, by id.

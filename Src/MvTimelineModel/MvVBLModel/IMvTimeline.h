@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MvVBLModelGlobal.h"
+#include "MvRange.h"
 
 #include <QList>
 #include <QMetaType>
@@ -66,6 +67,15 @@ public:
     virtual bool virtualPlayheadAllowed() const = 0;
     virtual void prepareVirtualPlayhead() = 0;
 
+    // Track commands and audio detach.
+    virtual int trackCount(MVVBLMODEL::MvTrackType type) const = 0;
+    virtual int emptyTrackCount(MVVBLMODEL::MvTrackType type) const = 0;
+    // The first and last row of that type; last < first when there is none.
+    virtual void trackIndexRange(MvRange<int>& range, MVVBLMODEL::MvTrackType type) const = 0;
+    virtual void clearEmptyTracks() = 0;
+    virtual void addTrack(int type, int index) = 0;
+    // Puts the clip's sound on an audio row as a clip of its own; the clip keeps its picture.
+    virtual void detachAudio(IMvClip* clip, int trackIndex) = 0;
     // Media insertion.
     // The project's frame rate (frames per second: numerator over denominator).
     virtual MVVBLMODEL::MvRational frameRate() const = 0;

@@ -18,6 +18,13 @@ public:
     virtual void setLocked(bool locked) = 0;
     virtual int height() const = 0;
     virtual void setHeight(int height) = 0;
-    // Clips ordered by start.
+    // Clips ordered by start; clips on a row never overlap, so their ends are ordered too.
     virtual QList<IMvClip*> clips() const = 0;
+
+    // Track commands. A hidden row shows nothing; withSound also silences a hidden picture row
+    // while it stays hidden (isMuted() then answers true whatever its own mute switch says).
+    virtual bool isVisible() const = 0;
+    virtual void setVisible(bool visible, bool withSound) = 0;
+    virtual bool isMuted() const = 0;
+    virtual void setMuted(bool muted) = 0;
 };

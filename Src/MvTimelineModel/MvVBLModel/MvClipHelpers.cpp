@@ -10,6 +10,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 bool cuttable(const IMvClip* clip)
 {
@@ -72,6 +74,21 @@ QList<IMvClip*> IMvClipHelper::findPrepareSplitClip(QList<IMvClip*> clips, bool 
     return prepared;
 }
 
+bool IMvClipHelper::hasAudio(IMvAbstractClip* item)
+{
+    using namespace MVVBLMODEL;
+    if (!item || !dynamic_cast<IMvClip*>(item))
+        return false;
+    const MvClipType type = item->type();
+    return isAudioClipType(type) || type == ClipType_VideoWithAudio || type == ClipType_ScreenRecording
+        || type == ClipType_Compound;
+}
+
+bool IMvClipHelper::isAudioFeatureClip(IMvClip* clip)
+{
+    return hasAudio(clip) && clip->track();
+}
+
 MvClipFinder::MvClipFinder(IMvTimeline* timeline)
     : m_timeline(timeline)
 {
@@ -93,6 +110,29 @@ QList<IMvClip*> MvClipFinder::findClips(qint64 frame) const
         }
     }
     return found;
+}
+
+// The row's clips are ordered by start and do not overlap: the first one ending at or after the
+// range's first frame is the only one that can meet it first.
+bool MvClipFinder::hasClip(int trackIndex, MvRange<qint64> range) const
+{
+    const IMvTrack* track = m_timeline ? m_timeline->trackAt(trackIndex) : nullptr;
+    if (!track || range.last < range.first)
+        return false;
+    const QList<IMvClip*> clips = track->clips();
+    const auto it = std::lower_bound(clips.cbegin(), clips.cend(), range.first,
+        [](const IMvClip* clip, qint64 frame) { return clip->end() < frame; });
+    return it != clips.cend() && (*it)->start() <= range.last;
+}
+
+bool MvAudioRemixHelper::clearRemix(IMvClip* clip)
+{
+    if (!clip)
+        return false;
+    IMvTimeline* timeline = clip->ownerTimeline();
+    const MvUndoRedoCommander step(timeline ? timeline->undoRedoService() : nullptr, QStringLiteral("clear remix"),
+        QStringLiteral("MvAudioRemixHelper::clearRemix"));
+    return clip->removeRemix();
 }
 
 void MvMotionTrackHelper::setTimeline(IMvTimeline* timeline)

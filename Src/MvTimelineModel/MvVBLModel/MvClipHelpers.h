@@ -1,9 +1,11 @@
 #pragma once
 
+#include "MvRange.h"
 #include "MvVBLModelGlobal.h"
 
 #include <QList>
 
+class IMvAbstractClip;
 class IMvClip;
 class IMvTimeline;
 
@@ -17,6 +19,12 @@ public:
     // The clips really to be cut: drops clips on locked tracks and repeats; with addPartners,
     // adds the linked partners (members of a group of kind 1) of each clip.
     static QList<IMvClip*> findPrepareSplitClip(QList<IMvClip*> clips, bool addPartners);
+
+    // Track commands: a clip of a kind that carries sound (audio kinds, picture with sound,
+    // screen recordings, compound clips); transitions carry none.
+    static bool hasAudio(IMvAbstractClip* item);
+    // A clip on the timeline whose sound is heard: the clips a mute switch applies to.
+    static bool isAudioFeatureClip(IMvClip* clip);
 };
 
 // Clips under a frame: those a cut at that frame would divide (start < frame <= end).
@@ -25,9 +33,20 @@ class MVVBLMODEL_EXPORT MvClipFinder
 public:
     explicit MvClipFinder(IMvTimeline* timeline);
     QList<IMvClip*> findClips(qint64 frame) const;
+    // Whether a clip of that row covers a frame of the range (false for a row that does not exist).
+    bool hasClip(int trackIndex, MvRange<qint64> range) const;
 
 private:
     IMvTimeline* m_timeline;
+};
+
+// The remix of a music clip (its length fitted by the model) can be taken off again.
+class MVVBLMODEL_EXPORT MvAudioRemixHelper
+{
+public:
+    // Takes the remix off the clip as one undo step of its timeline ("clear remix"); false for a
+    // null clip, a clip without remix or on a locked row.
+    static bool clearRemix(IMvClip* clip);
 };
 
 class MVVBLMODEL_EXPORT MvMotionTrackHelper

@@ -42,6 +42,12 @@ using MvTrackType = int;
 constexpr MvTrackType TrackType_Audio = 1;
 constexpr MvTrackType TrackType_Picture = 3;
 
+// Audio rows carry what is heard only; their eye button stands for their sound.
+inline bool isAudioTrack(MvTrackType type)
+{
+    return type == TrackType_Audio;
+}
+
 // Row height class of a track: 0 small, 1 normal, 2 large.
 using MvTrackSizePolicy = int;
 

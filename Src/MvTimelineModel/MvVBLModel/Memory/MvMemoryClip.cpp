@@ -14,8 +14,8 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
         && content == other.content && resource == other.resource && container == other.container
-        && children == other.children && secondary == other.secondary && textColor == other.textColor
-        && backgroundColor == other.backgroundColor;
+        && children == other.children && secondary == other.secondary && muted == other.muted
+        && remixed == other.remixed && textColor == other.textColor && backgroundColor == other.backgroundColor;
 }
 
 // ---- transitions

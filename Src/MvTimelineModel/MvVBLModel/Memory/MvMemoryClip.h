@@ -54,6 +54,7 @@ public:
     IMvClip* ownerClip() const override;
     int identifier() const override;
     quint16 placement() const override;
+    void range(MvRange<qint64>& range) const override;
     IMvResourceInfo* resourceInfo() const override;
 
     // Library resources (MvMemoryResource.cpp): an undoable edit.
@@ -144,6 +145,9 @@ struct MvMemoryClipState
     QMap<int, qint64> freezeFrames; // id -> clip frame
     // What a compound clip shows: a timeline of its own, shared by every copy of the clip.
     MvMemoryTimeline* content = nullptr;
+    // Track commands and audio: the clip's sound switched off; a music clip's remix.
+    bool muted = false;
+    bool remixed = false;
     // Colours of a text or subtitle clip given at its insertion (invalid: the defaults).
     QColor textColor;
     QColor backgroundColor;
@@ -177,6 +181,7 @@ public:
     qint64 start() const override;
     qint64 end() const override;
     QString name() const override;
+    void range(MvRange<qint64>& range) const override;
 
     // IMvClip
     qint64 position() const override;
@@ -199,6 +204,11 @@ public:
     bool canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) const override;
     bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) override;
     IMvKeyFrameSelector::MvSelectData allKeyFrames(bool audio) const override;
+    // Track commands and audio (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
+    bool isMuted() const override;
+    void setMuted(quint16 muted) override;
+    bool isRemixed() const override;
+    bool removeRemix() override;
     IMvResourceInfo* resourceInfo() const override;
     bool isSecondary() const override;
     // IMvTimelineClip
@@ -225,6 +235,8 @@ public:
     // Makes the clip a compound clip over that timeline (null: an ordinary clip again).
     void setCompoundContent(MvMemoryTimeline* content);
     MvMemoryTimeline* compoundContent() const { return state().content; }
+    // Marks a music clip as remixed; false for a clip that is not of an audio kind.
+    bool setRemixed(bool remixed);
     // The properties keyed at a clip frame of one side (empty when there is no keyframe).
     MvKeyFrameProperties keyFrameProperties(bool audio, qint64 clipFrame) const;
 

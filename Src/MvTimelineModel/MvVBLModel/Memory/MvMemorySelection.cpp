@@ -85,6 +85,11 @@ void MvMemorySelection::setTimelineSelected(bool selected)
     m_timelineSelected = selected;
 }
 
+IMvAbstractClip* MvMemorySelection::itemAt(int index) const
+{
+    return m_items.value(index);
+}
+
 bool MvMemorySelection::prune(const QList<const IMvAbstractClip*>& candidates)
 {
     MvMemoryMarks gone;

@@ -25,6 +25,7 @@ public:
     IMvAbstractClip* currentItem() const override;
     bool isTimelineSelected() const override;
     void setTimelineSelected(bool selected) override;
+    IMvAbstractClip* itemAt(int index) const override;
 
     // Drops those of the candidates (what an edit or undo changed) that are selected and no longer
     // on the timeline; true when something was dropped.

@@ -2,6 +2,8 @@
 
 #include "IMvTimelineRuler.h"
 #include "MvCallJournal.h"
+#include "MvEventBus.h"
+#include "MvMemoryClipboard.h"
 #include "MvMemoryEditService.h"
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
@@ -158,12 +160,16 @@ void MvMemoryTimelinePrivate::afterChange()
 
 void MvMemoryTimelinePrivate::modelChanged(const MvMemoryUndoRecorder::Step& step)
 {
+    // On the home thread; then through the event bus: a batch over this model's undo service makes
+    // one repaint of many steps.
     gate.notify([this, step]() {
         playhead->timelineEdited();
         markChangedFramesUnrendered(step);
         const QList<std::function<void()>> listeners = changeListeners;
-        for (const std::function<void()>& listener : listeners)
-            listener();
+        globalEventBus()->post(undo, q_ptr, [listeners] {
+            for (const std::function<void()>& listener : listeners)
+                listener();
+        });
     });
 }
 
@@ -268,7 +274,13 @@ MvMemoryTimeline::MvMemoryTimeline(int kind)
     });
 }
 
-MvMemoryTimeline::~MvMemoryTimeline() = default;
+MvMemoryTimeline::~MvMemoryTimeline()
+{
+    // Nothing may reach this timeline once it is gone: neither a held notification nor a copied
+    // compound clip that shows it.
+    globalEventBus()->cancel(this);
+    MvMemoryClipboard::application().forgetTimeline(this);
+}
 
 void MvMemoryTimeline::setProjectId(int project)
 {
@@ -486,19 +498,9 @@ MvMemoryTrack* MvMemoryTimeline::addTrack(MvTrackType type)
     MvMemoryThreadGate::Locker locker(&d->gate);
     if (type != TrackType_Audio && type != TrackType_Picture)
         return nullptr;
-    auto* track = new MvMemoryTrack(this, type);
-    d->allTracks.append(track);
-    d->build("addTrack", QStringLiteral("add track"), [d, track, type] {
-        // Picture rows stay on top of the audio rows.
-        auto value = d->values->change();
-        int at = value->rows.size();
-        if (type == TrackType_Picture) {
-            at = 0;
-            while (at < value->rows.size() && value->rows.at(at)->type() == TrackType_Picture)
-                ++at;
-        }
-        value->rows.insert(at, track);
-    });
+    MvMemoryTrack* track = nullptr;
+    // Picture rows stay on top of the audio rows; a new row goes below the others of its type.
+    d->build("addTrack", QStringLiteral("add track"), [d, &track, type] { track = d->insertTrack(type, -1); });
     return track;
 }
 

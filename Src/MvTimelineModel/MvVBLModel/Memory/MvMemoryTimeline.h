@@ -37,6 +37,7 @@ class MvMemoryUndoService;
 //   takes f .. end (joining the source's group, taking its keyframes, markers and freeze frames
 //   from f on, and its end transition);
 // - a locked track refuses every edit of its clips;
+// - the clipboard is the application's: a copy in one timeline pastes in any other;
 // - every edit is an undo step of its own unless a step is open, in which case it joins it;
 // - building calls (addTrack, addClip, addTransition) made outside a step are not undoable: they
 //   clear the undo history, which no longer describes the model; inside a step they join it;
@@ -95,6 +96,13 @@ public:
     void smartKeyingClips(QList<IMvClip*>& clips) const override;
     bool virtualPlayheadAllowed() const override;
     void prepareVirtualPlayhead() override;
+    // Track commands and audio detach (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
+    int trackCount(MVVBLMODEL::MvTrackType type) const override;
+    int emptyTrackCount(MVVBLMODEL::MvTrackType type) const override;
+    void trackIndexRange(MvRange<int>& range, MVVBLMODEL::MvTrackType type) const override;
+    void clearEmptyTracks() override;
+    void addTrack(int type, int index) override;
+    void detachAudio(IMvClip* clip, int trackIndex) override;
     // Media insertion (MvMemoryTimelineMedia.cpp).
     MVVBLMODEL::MvRational frameRate() const override;
     unsigned addMedias(const MvTimelineAddMediaParam& param, QList<IMvClip*>& clips, int policy) override;

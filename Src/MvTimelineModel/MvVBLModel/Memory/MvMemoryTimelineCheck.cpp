@@ -128,6 +128,8 @@ void MvMemoryTimelinePrivate::checkClips(QStringList& problems) const
         }
         if (!MvMemoryClip::hasPicture(clip->type()) && !freezeFrames.isEmpty())
             problems.append(clipId(clip) % QLatin1String(": freeze frame on a clip without picture"));
+        if (clip->state().remixed && !MVVBLMODEL::isAudioClipType(clip->type()))
+            problems.append(clipId(clip) % QLatin1String(": remix on a clip of no audio kind"));
         checkMarkers(clip->markerList(), clipId(clip), false, problems);
     }
 }
@@ -219,7 +221,8 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
         % QLatin1String(" rot=") % num(state.rotation) % QLatin1String(" enabled=") % num(state.enabled)
         % QLatin1String(" follower=") % clipId(state.follower) % QLatin1String(" tracking=") % num(state.tracking)
         % QLatin1String(" smart keying=") % num(state.smartKeying) % QLatin1String(" nodes=")
-        % num(state.smartKeyingNodes);
+        % num(state.smartKeyingNodes) % QLatin1String(" muted=") % num(state.muted) % QLatin1String(" remix=")
+        % num(state.remixed);
     text += QLatin1String("\n    markers: ") % markersText(clip->markerList());
     text += QLatin1String("\n    video keys: ") % keysText(state.videoKeys);
     text += QLatin1String("\n    audio keys: ") % keysText(state.audioKeys);
@@ -260,7 +263,9 @@ QString MvMemoryTimeline::stateText() const
     for (int row = 0; row < d->rows().size(); ++row) {
         const MvMemoryTrack* track = d->rows().at(row);
         lines.append(QLatin1String("track ") % num(row) % QLatin1String(" type=") % num(track->type())
-            % QLatin1String(" locked=") % num(track->isLocked()));
+            % QLatin1String(" locked=") % num(track->isLocked()) % QLatin1String(" visible=")
+            % num(track->state().visible) % QLatin1String(" muted=") % num(track->state().muted)
+            % QLatin1String(" silent while hidden=") % num(track->state().silentWhileHidden));
         const QList<MvMemoryClip*> clips = track->memoryClips();
         for (const MvMemoryClip* clip : clips)
             lines.append(d->clipText(clip));

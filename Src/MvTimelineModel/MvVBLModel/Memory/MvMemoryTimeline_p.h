@@ -84,6 +84,9 @@ public:
     MvMemoryTrack* rowForMedia(MVVBLMODEL::MvClipType type, int asked, qint64 start, qint64 end, int policy);
     MvMemoryClip* insertMediaClip(const MvTimelineAddMediaParam& param, int index, int policy, unsigned* flags);
     QString clipId(const MvMemoryClip* clip) const;
+    // Track commands and audio detach (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
+    MvMemoryTrack* insertTrack(MVVBLMODEL::MvTrackType type, int index);
+    MvMemoryTrack* soundRowFor(const MvMemoryClip* clip, int trackIndex);
     // Composed texts (MvMemoryTextContainer.cpp): layers of their own for a copy of an item.
     void copyChildren(MvMemoryClip* copy, const QList<MvMemoryClip*>& children);
     void checkChildren(QStringList& problems) const;

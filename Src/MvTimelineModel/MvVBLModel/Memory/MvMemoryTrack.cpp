@@ -6,7 +6,7 @@
 #include <limits>
 
 MvMemoryTrack::MvMemoryTrack(MvMemoryTimeline* timeline, MVVBLMODEL::MvTrackType type)
-    : MvMemoryValued<State>(timeline->undoRecorder(), State { type, false })
+    : MvMemoryValued<State>(timeline->undoRecorder(), State { type, false, true, false, false })
     , m_timeline(timeline)
 {
 }
@@ -134,9 +134,12 @@ QString MvMemoryTrack::undoLabel() const
     return QStringLiteral("track %1").arg(m_row);
 }
 
-// A track made later than a capture is not on the timeline then, and not locked.
+// A track made later than a capture is not on the timeline then: not locked, shown and heard.
 MvMemoryTrack::State MvMemoryTrack::detached(State value) const
 {
     value.locked = false;
+    value.visible = true;
+    value.muted = false;
+    value.silentWhileHidden = false;
     return value;
 }

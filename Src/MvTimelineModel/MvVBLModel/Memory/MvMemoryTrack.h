@@ -16,8 +16,17 @@ struct MvMemoryTrackState
 {
     MVVBLMODEL::MvTrackType type = MVVBLMODEL::TrackType_Picture;
     bool locked = false;
+    // Track commands: the row's eye and mute switches; a row hidden with its sound stays silent
+    // while hidden.
+    bool visible = true;
+    bool muted = false;
+    bool silentWhileHidden = false;
 
-    bool operator==(const MvMemoryTrackState& other) const { return type == other.type && locked == other.locked; }
+    bool operator==(const MvMemoryTrackState& other) const
+    {
+        return type == other.type && locked == other.locked && visible == other.visible && muted == other.muted
+            && silentWhileHidden == other.silentWhileHidden;
+    }
 };
 
 // A track row. Its lock state is undoable model state; which clips it holds is each clip's own
@@ -37,6 +46,11 @@ public:
     int height() const override;
     void setHeight(int height) override;
     QList<IMvClip*> clips() const override;
+    // Track commands (MvMemoryTracks.cpp).
+    bool isVisible() const override;
+    void setVisible(bool visible, bool withSound) override;
+    bool isMuted() const override;
+    void setMuted(bool muted) override;
 
     // Whether a clip of this type may sit on this row.
     bool accepts(MVVBLMODEL::MvClipType clipType) const;

@@ -28,6 +28,51 @@ QList<MvEffectPropertyBaseInfo> volumeKeys()
     return { MvEffectPropertyBaseInfo { PropertyGroup_AudioVolume, QString(), false, -1, 22 } };
 }
 
+// The theme music is remixed to the length of the cut (audio commands can take that off).
+void addAudioContent(MvMemoryTimeline& timeline)
+{
+    const QList<MvMemoryClip*> music = timeline.memoryTrack(4)->memoryClips();
+    if (!music.isEmpty())
+        music.first()->setRemixed(true);
+}
+
+// A short timeline of one picture row and one audio row, for a compound clip to show.
+void buildSequence(MvMemoryTimeline& sequence, int project, const QString& name, const QString& picture)
+{
+    sequence.setProjectId(project);
+    sequence.setName(name);
+    sequence.setFrameRate(30, 1);
+    sequence.addTrack(TrackType_Picture);
+    sequence.addTrack(TrackType_Audio);
+    sequence.addClip(0, ClipType_VideoWithAudio, 0, 8 * kSecond - 1, picture);
+    sequence.addClip(1, ClipType_SoundEffect, 2 * kSecond, 5 * kSecond - 1, QStringLiteral("Gulls"));
+    sequence.undoService()->clear();
+}
+
+// The main timeline's compound clip over its sequence, on the overlay row before the logo.
+void addCompound(MvMemoryTimeline& timeline, MvMemoryTimeline& sequence)
+{
+    MvMemoryClip* compound
+        = timeline.addClip(1, ClipType_Compound, 10 * kSecond, 18 * kSecond - 1, QStringLiteral("Sequence 1"));
+    compound->setCompoundContent(&sequence);
+    timeline.undoService()->clear();
+}
+
+// Another project: a timeline with a plain clip and a compound clip over a sequence of its own.
+void buildOtherProject(MvMemoryTimeline& timeline, MvMemoryTimeline& sequence)
+{
+    buildSequence(sequence, 2, QStringLiteral("Reel intro"), QStringLiteral("Beach"));
+    timeline.setProjectId(2);
+    timeline.setName(QStringLiteral("Holiday reel"));
+    timeline.setFrameRate(30, 1);
+    timeline.addTrack(TrackType_Picture);
+    timeline.addTrack(TrackType_Audio);
+    timeline.addClip(0, ClipType_Compound, 0, 8 * kSecond - 1, QStringLiteral("Reel intro"))
+        ->setCompoundContent(&sequence);
+    timeline.addClip(0, ClipType_Video, 8 * kSecond, 14 * kSecond - 1, QStringLiteral("Sunset"));
+    timeline.undoService()->clear();
+}
+
 MvMemoryClip* clipNamed(const MvMemoryTimeline& timeline, const QString& name)
 {
     const QList<MvMemoryClip*> clips = timeline.liveClips();
@@ -122,11 +167,42 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
     still->addFreezeFrame(1, 3 * kSecond);
     screen->setSmartKeyingNodeCount(3);
     caption->setMotionTrackingEnabled(true);
+    addAudioContent(timeline);
     addLibraryResources(timeline);
     composeLowerThird(timeline);
 
     timeline.undoService()->clear();
     timeline.playhead()->setCurrentFrame(0);
+}
+
+MvSampleProject::MvSampleProject()
+    : m_sequence(new MvMemoryTimeline(1))
+    , m_otherSequence(new MvMemoryTimeline(1))
+    , m_otherProject(new MvMemoryTimeline(0))
+    , m_timeline(new MvMemoryTimeline(0))
+{
+    build(*m_timeline);
+    m_timeline->setName(QStringLiteral("A day by the sea"));
+    buildSequence(*m_sequence, m_timeline->projectId(), QStringLiteral("Sequence 1"), QStringLiteral("Close-up"));
+    addCompound(*m_timeline, *m_sequence);
+    buildOtherProject(*m_otherProject, *m_otherSequence);
+}
+
+MvSampleProject::~MvSampleProject() = default;
+
+MvMemoryTimeline* MvSampleProject::timeline() const
+{
+    return m_timeline.data();
+}
+
+MvMemoryTimeline* MvSampleProject::sequence() const
+{
+    return m_sequence.data();
+}
+
+MvMemoryTimeline* MvSampleProject::otherProjectTimeline() const
+{
+    return m_otherProject.data();
 }
 
 namespace {
