@@ -6,68 +6,28 @@ using Place = MvDemoContextMenus::Place;
 
 const QVector<MvDemoContextMenus::Entry>& MvDemoContextMenus::entries()
 {
-    // One line per entry, in menu order within each place.
+    // A line per group of entries, in menu order within each place; separators come between groups.
     static const QVector<Entry> table {
-        { Place::Clip, "copy" },
-        { Place::Clip, "cut" },
-        { Place::Clip, "paste" },
-        { Place::Clip, "duplicate" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "split" },
-        { Place::Clip, "trim-start" },
-        { Place::Clip, "trim-end" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "delete" },
-        { Place::Clip, "ripple-delete" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "add-marker" },
-        { Place::Clip, "edit-marker" },
-        { Place::Clip, "remove-marker" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "add-keyframe" },
-        { Place::Clip, "prev-keyframe" },
-        { Place::Clip, "next-keyframe" },
-        { Place::Clip, "clear-video-keyframes" },
-        { Place::Clip, "clear-audio-keyframes" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "rotate-cw" },
-        { Place::Clip, "rotate-ccw" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "mute-clips" },
-        { Place::Clip, "detach-audio" },
-        { Place::Clip, "clear-remix" },
-        { Place::Clip, "open-compound" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "find-similar" },
-        { Place::Clip, "select-all-texts" },
-        { Place::Clip, nullptr },
-        { Place::Clip, "show-properties" },
-        { Place::Clip, "advanced-edit" },
-        { Place::Clip, "advanced-color" },
-        { Place::Clip, "add-animation" },
+        { Place::Clip, "copy cut paste duplicate" },
+        { Place::Clip, "split trim-start trim-end" },
+        { Place::Clip, "delete ripple-delete" },
+        { Place::Clip, "add-marker edit-marker remove-marker" },
+        { Place::Clip, "add-keyframe prev-keyframe next-keyframe clear-video-keyframes clear-audio-keyframes" },
+        { Place::Clip, "rotate-cw rotate-ccw" },
+        { Place::Clip, "mute-clips detach-audio clear-remix open-compound" },
+        { Place::Clip, "find-similar select-all-texts" },
+        { Place::Clip, "show-properties advanced-edit advanced-color add-animation" },
+        { Place::Clip, "copy-effects paste-effects delete-effects" },
+        { Place::Clip, "apply-transition random-transitions apply-effect" },
 
-        { Place::Track, "track-visible" },
-        { Place::Track, "track-mute" },
-        { Place::Track, "track-lock" },
-        { Place::Track, nullptr },
-        { Place::Track, "track-rows-small" },
-        { Place::Track, "track-rows-normal" },
-        { Place::Track, "track-rows-large" },
+        { Place::Track, "track-visible track-mute track-lock" },
+        { Place::Track, "track-rows-small track-rows-normal track-rows-large" },
 
-        { Place::Ruler, "add-marker" },
-        { Place::Ruler, "edit-marker" },
-        { Place::Ruler, "remove-marker" },
-        { Place::Ruler, nullptr },
-        { Place::Ruler, "zoom-fit" },
-        { Place::Ruler, "zoom-in" },
-        { Place::Ruler, "zoom-out" },
+        { Place::Ruler, "add-marker edit-marker remove-marker" },
+        { Place::Ruler, "zoom-fit zoom-in zoom-out" },
 
-        { Place::EmptySpace, "paste" },
-        { Place::EmptySpace, "split" },
-        { Place::EmptySpace, "add-marker" },
-        { Place::EmptySpace, nullptr },
-        { Place::EmptySpace, "zoom-fit" },
-        { Place::EmptySpace, "clear-empty-tracks" },
+        { Place::EmptySpace, "paste split add-marker" },
+        { Place::EmptySpace, "zoom-fit clear-empty-tracks" },
     };
     return table;
 }
@@ -76,8 +36,11 @@ QStringList MvDemoContextMenus::actionsFor(Place place)
 {
     QStringList names;
     for (const Entry& entry : entries()) {
-        if (entry.place == place)
-            names.append(entry.action ? QString::fromLatin1(entry.action) : QString());
+        if (entry.place != place)
+            continue;
+        if (!names.isEmpty())
+            names.append(QString());
+        names.append(QString::fromLatin1(entry.actions).split(QLatin1Char(' ')));
     }
     return names;
 }

@@ -23,10 +23,11 @@ public:
         EmptySpace,
     };
 
+    // A group of entries of one place: action names separated by spaces.
     struct Entry
     {
         Place place;
-        const char* action; // null for a separator
+        const char* actions;
     };
 
     static const QVector<Entry>& entries();

@@ -87,6 +87,7 @@ void MvDemoWindow::buildMenus()
     buildTrackActions();
     buildPanelMenu();
     buildMediaMenu();
+    buildEffectMenu();
 
     QMenu* playback = menuBar()->addMenu(tr("&Playback"));
     addCommand(playback, QStringLiteral("play"), tr("Play / Pause"), QKeySequence(Qt::Key_Space),

@@ -41,6 +41,7 @@ QString MvDemoJournalWords::message(int id)
         { MessageId::MatchProjectSettings, QT_TR_NOOP("offer the media's settings to the project") },
         { MessageId::AddMediaResponse, QT_TR_NOOP("media added") },
         { MessageId::ScrollToTrack, QT_TR_NOOP("bring the new clips into view") },
+        { MessageId::AudioEffectOverride, QT_TR_NOOP("ask whether to replace an audio effect") },
     };
     const char* text = words.value(id);
     return text ? tr(text) : tr("message %1").arg(id);

@@ -258,6 +258,18 @@ MvDemoMediaPanel::MvDemoMediaPanel(MvMemoryMediaLibrary* library, QWidget* paren
     });
 }
 
+QList<MvMemoryMediaItem*> MvDemoMediaPanel::shownItems() const
+{
+    QList<MvMemoryMediaItem*> shown;
+    const QList<MvMemoryMediaItem*> items = m_library->items();
+    for (MvMemoryMediaItem* item : items) {
+        const int type = item->mediaType();
+        if (type != MediaType_Transition && type != MediaType_VideoEffect && type != MediaType_AudioEffect)
+            shown.append(item);
+    }
+    return shown;
+}
+
 MvMemoryMediaItem* MvDemoMediaPanel::currentItem() const
 {
     return itemAt(m_list->currentRow());
@@ -265,13 +277,13 @@ MvMemoryMediaItem* MvDemoMediaPanel::currentItem() const
 
 MvMemoryMediaItem* MvDemoMediaPanel::itemAt(int row) const
 {
-    const QList<MvMemoryMediaItem*> items = m_library->items();
+    const QList<MvMemoryMediaItem*> items = shownItems();
     return row >= 0 && row < items.size() ? items.at(row) : nullptr;
 }
 
 int MvDemoMediaPanel::rowOf(const QString& name) const
 {
-    const QList<MvMemoryMediaItem*> items = m_library->items();
+    const QList<MvMemoryMediaItem*> items = shownItems();
     for (int row = 0; row < items.size(); ++row) {
         if (items.at(row)->name() == name)
             return row;
@@ -281,7 +293,7 @@ int MvDemoMediaPanel::rowOf(const QString& name) const
 
 void MvDemoMediaPanel::refresh()
 {
-    const QList<MvMemoryMediaItem*> items = m_library->items();
+    const QList<MvMemoryMediaItem*> items = shownItems();
     const int current = m_list->currentRow();
     m_list->clear();
     for (const MvMemoryMediaItem* item : items) {

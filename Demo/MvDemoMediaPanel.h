@@ -65,6 +65,9 @@ Q_SIGNALS:
     void addRequested(MvMemoryMediaItem* item);
 
 private:
+    // The items this panel lists: transitions and effects have panels of their own.
+    QList<MvMemoryMediaItem*> shownItems() const;
+
     MvMemoryMediaLibrary* m_library;
     MvDemoMediaList* m_list;
     QPushButton* m_addButton;

@@ -90,6 +90,9 @@ bool MvDemoMediaScene::handleMessage(MvMessage* message, QString* detail)
         return true;
     case MessageId::AddMediaResponse: {
         auto* response = static_cast<MvTimelineAddMediaResponseMessage*>(message);
+        // Only an insertion's response holds clips; transitions and effects are told elsewhere.
+        if (response->value() != 0)
+            return false;
         const auto* clips = static_cast<const QList<IMvClip*>*>(response->context());
         QStringList names;
         const QList<IMvAbstractMediaItem*> items = response->mediaItems();

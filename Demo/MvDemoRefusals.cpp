@@ -93,6 +93,11 @@ QString MvDemoRefusals::reason(const QString& command) const
             [](const MvDemoRefusals& r) { return r.timelineReason(QStringLiteral("clear-empty-tracks")); } },
         { QStringLiteral("open-compound"),
             [](const MvDemoRefusals& r) { return r.timelineReason(QStringLiteral("open-compound")); } },
+        { QStringLiteral("copy-effects"), [](const MvDemoRefusals& r) { return r.copyEffectsReason(); } },
+        { QStringLiteral("paste-effects"), [](const MvDemoRefusals& r) { return r.pasteEffectsReason(); } },
+        { QStringLiteral("delete-effects"), [](const MvDemoRefusals& r) { return r.deleteEffectsReason(); } },
+        { QStringLiteral("apply-effect"), [](const MvDemoRefusals& r) { return r.selectionForEffectsReason(); } },
+        { QStringLiteral("random-transitions"), [](const MvDemoRefusals& r) { return r.selectionForEffectsReason(); } },
     };
     const Check check = checks.value(command);
     return m_timeline && check ? check(*this) : QString();

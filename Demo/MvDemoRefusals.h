@@ -51,6 +51,11 @@ private:
     QString clipboardReason(const QString& command) const;
     QString audioReason(const QString& command) const;
     QString timelineReason(const QString& command) const;
+    // Transitions and effects (MvDemoEffectActions.cpp).
+    QString copyEffectsReason() const;
+    QString pasteEffectsReason() const;
+    QString deleteEffectsReason() const;
+    QString selectionForEffectsReason() const;
 
     IMvTimeline* m_timeline;
     MvTimelinePresenter* m_presenter;

@@ -318,7 +318,7 @@ QList<MvDemoScenario::Step> MvDemoScenario::navigationSteps()
 
 QList<MvDemoScenario::Step> MvDemoScenario::steps()
 {
-    return editingSteps() + mouseSteps() + navigationSteps() + panelSteps() + mediaSteps();
+    return editingSteps() + mouseSteps() + navigationSteps() + panelSteps() + mediaSteps() + effectSteps();
 }
 
 QString MvDemoScenario::fileFor(int index, const QString& name) const

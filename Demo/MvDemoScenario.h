@@ -38,6 +38,10 @@ private:
     QList<Step> mediaSteps();
     void doubleClickMedia(const QString& name);
     void dropMedia(const QString& name, qint64 frame, int trackIndex);
+    // Transitions and effects (MvDemoEffectActions.cpp): a drop of a panel's item onto a clip, at
+    // a fraction of the clip's width.
+    QList<Step> effectSteps();
+    void dropOnClip(const QString& mimeType, const QString& itemName, const QString& clipName, double fraction);
     void pickFirstKeyFrame(bool audio);
     void trigger(const QString& actionName);
     IMvClip* clipNamed(const QString& name) const;

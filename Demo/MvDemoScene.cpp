@@ -1,5 +1,6 @@
 #include "MvDemoScene.h"
 
+#include "IMvAbstractClip.h"
 #include "MvDemoJournal.h"
 #include "MvDemoPlayer.h"
 #include "MvMessage.h"
@@ -8,6 +9,7 @@
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStringList>
 
 using namespace MVVBLMODEL;
 
@@ -31,6 +33,9 @@ void MvDemoScene::receiveMessage(MvMessage* message)
     switch (id) {
     case MessageId::GroupQuestionBeforeSplit:
         detail = answerGroupQuestion(message);
+        break;
+    case MessageId::AudioEffectOverride:
+        detail = answerAudioEffectOverride(message);
         break;
     case MessageId::IsPlayerPlaying:
         static_cast<MvQueryMessage*>(message)->setAnswer(m_player->isPlaying());
@@ -80,4 +85,29 @@ QString MvDemoScene::answerGroupQuestion(MvMessage* message)
         return tr("split and keep the groups");
     }
     return tr("cancelled");
+}
+
+QString MvDemoScene::answerAudioEffectOverride(MvMessage* message)
+{
+    auto* question = static_cast<MvAudioEffectOverrideMessage*>(message);
+    QStringList names;
+    for (const IMvClip* clip : question->clips())
+        names.append(clip->name());
+    if (!m_interactive) {
+        // Offscreen there is nobody to ask: the effect just chosen is the one wanted.
+        question->setAnswer(true);
+        return tr("replace the audio effect of %1").arg(names.join(QLatin1String(", ")));
+    }
+    QMessageBox box(QMessageBox::Question, tr("Replace audio effect"),
+        tr("%1 already plays through an audio effect, and a clip has room for one only. Replace it?")
+            .arg(names.join(QLatin1String(", "))),
+        QMessageBox::NoButton, m_dialogParent);
+    QPushButton* replace = box.addButton(tr("Replace"), QMessageBox::AcceptRole);
+    box.addButton(tr("Keep"), QMessageBox::RejectRole);
+    box.setDefaultButton(replace);
+    box.exec();
+    const bool replaced = box.clickedButton() == replace;
+    question->setAnswer(replaced);
+    return replaced ? tr("replace the audio effect of %1").arg(names.join(QLatin1String(", ")))
+                    : tr("keep the audio effect of %1").arg(names.join(QLatin1String(", ")));
 }

@@ -36,6 +36,7 @@ Q_SIGNALS:
 private:
     // The answer given, in words.
     QString answerGroupQuestion(MvMessage* message);
+    QString answerAudioEffectOverride(MvMessage* message);
 
     MvDemoPlayer* m_player;
     QWidget* m_dialogParent = nullptr;

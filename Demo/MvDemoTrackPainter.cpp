@@ -1,6 +1,7 @@
 #include "MvDemoTrackPainter.h"
 
 #include "IMvAbstractClip.h"
+#include "IMvEffect.h"
 #include "IMvMarker.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
@@ -87,7 +88,18 @@ void MvDemoTrackPainter::transitions(IMvClip* owner, int trackIndex, bool anySel
     for (IMvTransition* transition : list) {
         const QRect r = m_area.clipRect(transition, trackIndex);
         const bool isSelected = selected.contains(transition);
+        // A transition made from a library item shows the item's picture of it.
+        const QImage picture = transition->thumbnail();
+        if (!picture.isNull()) {
+            m_painter.setOpacity(0.85);
+            m_painter.drawImage(r, picture);
+            m_painter.setOpacity(1.0);
+        }
         m_painter.fillRect(r, QBrush(QColor(255, 255, 255, isSelected ? 200 : 110), Qt::BDiagPattern));
+        if (r.width() > 40) {
+            m_painter.setPen(Qt::white);
+            m_painter.drawText(r.adjusted(3, 0, -2, -3), Qt::AlignLeft | Qt::AlignBottom, transition->name());
+        }
         if (isSelected) {
             m_painter.setPen(QPen(Qt::white, 2));
             m_painter.drawRect(r.adjusted(1, 1, -1, -1));
@@ -125,6 +137,29 @@ void MvDemoTrackPainter::clip(IMvClip* item, const QRect& rect, bool selected, b
     m_painter.drawText(rect.adjusted(6, 2, -4, -2), Qt::AlignLeft | Qt::AlignTop, label);
     keyFrames(item, rect);
     clipMarkers(item->clipMarkers(), rect);
+    effectBadge(item, rect);
+}
+
+void MvDemoTrackPainter::effectBadge(IMvClip* item, const QRect& rect)
+{
+    const IMvEffectContainer* effects = item->effects();
+    const int count = effects ? effects->count() : 0;
+    if (count == 0)
+        return;
+    // "fx" and how many, on an amber badge when one of them is an audio effect (sound clips are green).
+    const QString text = count > 1 ? QStringLiteral("fx %1").arg(count) : QStringLiteral("fx");
+    const int width = m_painter.fontMetrics().horizontalAdvance(text) + 8;
+    const QRect badge(rect.right() - width - 3, rect.top() + 3, width, 14);
+    if (badge.left() < rect.left())
+        return;
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::Antialiasing, true);
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(effects->hasAudioEffect() ? QColor(0xC7, 0x6B, 0x12) : QColor(0x6A, 0x3F, 0xB5));
+    m_painter.drawRoundedRect(badge, 4, 4);
+    m_painter.setPen(Qt::white);
+    m_painter.drawText(badge, Qt::AlignCenter, text);
+    m_painter.restore();
 }
 
 void MvDemoTrackPainter::keyFrames(IMvClip* item, const QRect& rect)

@@ -29,6 +29,7 @@ private:
     void keyFrames(IMvClip* clip, const QRect& rect);
     void clipMarkers(IMvMarkerList* markers, const QRect& rect);
     void transitions(IMvClip* clip, int trackIndex, bool anySelected);
+    void effectBadge(IMvClip* clip, const QRect& rect);
 
     QPainter& m_painter;
     const MvDemoTrackArea& m_area;

@@ -8,6 +8,7 @@
 #include "IMvTrack.h"
 #include "IMvUndoRedoService.h"
 #include "Memory/MvMemoryMediaLibrary.h"
+#include "Memory/MvMemoryProjectManager.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvSampleProject.h"
 #include "MvDemoJournal.h"
@@ -70,6 +71,7 @@ MvDemoWindow::MvDemoWindow(bool interactive, bool verbose, QWidget* parent)
     buildJournal();
     buildPanels();
     buildMediaPanel(interactive);
+    buildEffectPanels();
     buildMenus();
     connectViews();
     qApp->installEventFilter(new MvDemoMarkerDialogStyle(this));
@@ -369,6 +371,7 @@ void MvDemoWindow::refreshActions()
     refreshEditActions();
     refreshPanelActions();
     refreshClipboardActions();
+    refreshEffectActions();
     refreshStatus();
 }
 

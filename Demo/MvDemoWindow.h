@@ -15,16 +15,22 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QPlainTextEdit;
+class IMvAbstractMediaItem;
 class IMvClip;
 class IMvTrack;
 class MvMemoryMediaItem;
 class MvMemoryMediaLibrary;
 class MvMemoryTimeline;
 class MvSampleProject;
+class MvDemoEffectDrops;
+class MvDemoEffectsDock;
 class MvDemoMediaDrop;
 class MvDemoMediaPanel;
 class MvDemoMediaScene;
 class MvDemoLibraryDock;
+class MvDemoTransitionsDock;
+class MvMemoryProjectManager;
+class MvMessage;
 class MvDemoLogRouter;
 class MvDemoMarkerPresenter;
 class MvDemoPlayer;
@@ -86,6 +92,11 @@ public:
     // Adds the item at a frame, on a row when one is given (-1: the timeline chooses); false
     // when nothing was added, and the user is told why.
     bool addMedia(MvMemoryMediaItem* item, qint64 frame, int trackIndex = -1);
+    // Transitions and effects (MvDemoEffectActions.cpp): two more panels over the project's media
+    // library, and the drops of their items onto the tracks.
+    MvDemoTransitionsDock* transitionsDock() const { return m_transitionsDock; }
+    MvDemoEffectsDock* effectsDock() const { return m_effectsDock; }
+    MvDemoEffectDrops* effectDrops() const { return m_effectDrops; }
 
     // Tells the user why a command did nothing. One place, so that the notice can change its look.
     void tellRefusal(const QString& text);
@@ -130,6 +141,14 @@ private:
     void scrollToClips(const QList<IMvClip*>& clips);
     void fitNewRows();
     QString mediaRefusal(MvMemoryMediaItem* item) const;
+    // Transitions and effects (MvDemoEffectActions.cpp).
+    void buildEffectPanels();
+    void buildEffectMenu();
+    void refreshEffectActions();
+    void dropTransition(IMvClip* clip, int transitionType, MvMemoryMediaItem* item);
+    // Applies the effect to the clips; false, and the user told why, when no clip took it.
+    bool applyEffect(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item);
+    bool describeEffectMessage(MvMessage* message, QString* detail);
     void refreshEditActions();
     QAction* addCommand(
         QMenu* menu, const QString& name, const QString& text, const QKeySequence& shortcut, Command command);
@@ -148,6 +167,8 @@ private:
     QScopedPointer<MvSampleProject> m_project;
     MvMemoryTimeline* m_timeline = nullptr;
     QHash<const MvMemoryTimeline*, QPointer<MvDemoTimelineWindow>> m_timelineWindows;
+    // The projects the once-per-project notices are remembered with.
+    QScopedPointer<MvMemoryProjectManager> m_projects;
     MvDemoLogRouter* m_logRouter = nullptr;
     MvDemoPlayer* m_player = nullptr;
     MvDemoScene* m_scene = nullptr;
@@ -168,6 +189,9 @@ private:
     MvDemoMediaScene* m_mediaScene = nullptr;
     MvDemoMediaDrop* m_mediaDrop = nullptr;
     QList<IMvTrack*> m_rowsBeforeInsert; // while media is added: the rows it may add to
+    MvDemoTransitionsDock* m_transitionsDock = nullptr;
+    MvDemoEffectsDock* m_effectsDock = nullptr;
+    MvDemoEffectDrops* m_effectDrops = nullptr;
     QLabel* m_status = nullptr;
     QHash<QString, QAction*> m_actions;
     QStringList m_journal;

@@ -487,7 +487,9 @@ void tst_MvMemoryMedia::sampleLibraryHasEveryKind()
     QCOMPARE(kinds.join(QLatin1String(" | ")),
         QStringLiteral("1 30 fps | 1 60 fps | 2 | 3 | 4 | 5 | 1 length 0 30 fps | 16 length 0 25 fps | "
                        "1 download stock 3 | 2 download stock 1 | 1 download vcg | 30 length 0 | 30 length 0 | "
-                       "30 length 0"));
+                       "30 length 0"
+                       // Transitions (the slide needs a download), video and audio effects.
+                       " | 12 | 12 | 12 download | 12 | 10 | 10 | 10 | 11 | 11"));
 
     auto* beach = dynamic_cast<MvMemoryCompoundMediaItem*>(library.find(QStringLiteral("Beach sequence")));
     QVERIFY(beach && beach->waitForTimelineLoaded(10000));

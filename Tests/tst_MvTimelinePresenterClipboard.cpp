@@ -62,6 +62,16 @@ public:
     }
     void ungroup(const QList<IMvClip*>& members) override { m_inner->ungroup(members); }
     void group(const QList<IMvClip*>& members, int kind) override { m_inner->group(members, kind); }
+    // The effect clipboard, untouched by these tests.
+    void copyEffect(IMvClip* clip) override { m_inner->copyEffect(clip); }
+    bool canPasteEffect() const override { return m_inner->canPasteEffect(); }
+    bool needAudioEffectOverride(const QList<IMvClip*>& clips) const override
+    {
+        return m_inner->needAudioEffectOverride(clips);
+    }
+    bool pasteEffect(const QList<IMvClip*>& clips) override { return m_inner->pasteEffect(clips); }
+    bool removeEffects(const QList<IMvClip*>& clips) override { return m_inner->removeEffects(clips); }
+    bool hasEffect(IMvClip* clip) const override { return m_inner->hasEffect(clip); }
 
 private:
     const MvRecordingTimeline* m_owner;

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>MvDemoEffectsDock</name>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>%1 (sound)</source>
+        <translation>%1 (Ton)</translation>
+    </message>
+    <message>
+        <source>Apply to Selection</source>
+        <translation>Auf Auswahl anwenden</translation>
+    </message>
+</context>
+<context>
     <name>MvDemoJournalWords</name>
     <message>
         <source>ask whether to ungroup before splitting</source>
@@ -161,6 +176,10 @@
     <message>
         <source>library %1: %2 (%3)</source>
         <translation>Bibliothek %1: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>ask whether to replace an audio effect</source>
+        <translation>fragen, ob ein Audioeffekt ersetzt wird</translation>
     </message>
 </context>
 <context>
@@ -802,6 +821,34 @@
         <source>There is no empty track besides the ones that always stay.</source>
         <translation>Außer den festen Spuren gibt es keine leere Spur.</translation>
     </message>
+    <message>
+        <source>Select one clip to copy its effects.</source>
+        <translation>Einen Clip auswählen, um seine Effekte zu kopieren.</translation>
+    </message>
+    <message>
+        <source>“%1” has no effects to copy.</source>
+        <translation>„%1“ hat keine Effekte zum Kopieren.</translation>
+    </message>
+    <message>
+        <source>Copy the effects of a clip first.</source>
+        <translation>Zuerst die Effekte eines Clips kopieren.</translation>
+    </message>
+    <message>
+        <source>Select the clips to paste the effects onto.</source>
+        <translation>Die Clips auswählen, auf die die Effekte eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Select the clips whose effects are to go.</source>
+        <translation>Die Clips auswählen, deren Effekte entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The selected clips have no effects.</source>
+        <translation>Die ausgewählten Clips haben keine Effekte.</translation>
+    </message>
+    <message>
+        <source>Select the clips first.</source>
+        <translation>Zuerst die Clips auswählen.</translation>
+    </message>
 </context>
 <context>
     <name>MvDemoScene</name>
@@ -852,6 +899,30 @@
     <message>
         <source>cancelled</source>
         <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>replace the audio effect of %1</source>
+        <translation>den Audioeffekt von %1 ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace audio effect</source>
+        <translation>Audioeffekt ersetzen</translation>
+    </message>
+    <message>
+        <source>%1 already plays through an audio effect, and a clip has room for one only. Replace it?</source>
+        <translation>%1 läuft schon durch einen Audioeffekt, und ein Clip hat nur für einen Platz. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>keep the audio effect of %1</source>
+        <translation>den Audioeffekt von %1 behalten</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1000,41 @@
     <message>
         <source>Show the track again before switching its sound.</source>
         <translation>Die Spur erst wieder einblenden, bevor ihr Ton umgeschaltet wird.</translation>
+    </message>
+</context>
+<context>
+    <name>MvDemoTransitionsDock</name>
+    <message>
+        <source>Transitions</source>
+        <translation>Übergänge</translation>
+    </message>
+    <message>
+        <source>%1 (sound)</source>
+        <translation>%1 (Ton)</translation>
+    </message>
+    <message>
+        <source>%1 - downloaded when first used</source>
+        <translation>%1 – wird bei der ersten Verwendung heruntergeladen</translation>
+    </message>
+    <message>
+        <source> frames</source>
+        <translation> Frames</translation>
+    </message>
+    <message>
+        <source>the item's own</source>
+        <translation>die eigene des Elements</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Länge:</translation>
+    </message>
+    <message>
+        <source>Apply to Selection</source>
+        <translation>Auf Auswahl anwenden</translation>
+    </message>
+    <message>
+        <source>Random Transitions</source>
+        <translation>Zufällige Übergänge</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1250,38 @@
     <message>
         <source>Unmute Track</source>
         <translation>Spur hörbar machen</translation>
+    </message>
+    <message>
+        <source>Add Effect</source>
+        <translation>Effekt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Effects</source>
+        <translation>Effekte hinzufügen</translation>
+    </message>
+    <message>
+        <source>Change Clip Data</source>
+        <translation>Clipdaten ändern</translation>
+    </message>
+    <message>
+        <source>Paste Effects</source>
+        <translation>Effekte einfügen</translation>
+    </message>
+    <message>
+        <source>Random Transitions</source>
+        <translation>Zufällige Übergänge</translation>
+    </message>
+    <message>
+        <source>Remove Effects</source>
+        <translation>Effekte entfernen</translation>
+    </message>
+    <message>
+        <source>Change Media Handles</source>
+        <translation>Medienüberhang ändern</translation>
+    </message>
+    <message>
+        <source>Change Transition Length</source>
+        <translation>Übergangslänge ändern</translation>
     </message>
 </context>
 <context>
@@ -1551,6 +1689,77 @@
     <message>
         <source>%1 (compound clip)</source>
         <translation>%1 (zusammengesetzter Clip)</translation>
+    </message>
+    <message>
+        <source>Select the clips first.</source>
+        <translation>Zuerst die Clips auswählen.</translation>
+    </message>
+    <message>
+        <source>Choose an effect in the Effects panel first.</source>
+        <translation>Zuerst einen Effekt im Effektbereich wählen.</translation>
+    </message>
+    <message>
+        <source>“%1” is a sound effect: it needs a clip with sound on an unlocked track.</source>
+        <translation>„%1“ ist ein Soundeffekt: Er braucht einen Clip mit Ton auf einer nicht gesperrten Spur.</translation>
+    </message>
+    <message>
+        <source>“%1” changes the picture: it needs a clip with a picture of its own on an unlocked track.</source>
+        <translation>„%1“ verändert das Bild: Er braucht einen Clip mit eigenem Bild auf einer nicht gesperrten Spur.</translation>
+    </message>
+    <message>
+        <source>drop: effect “%1” on “%2”</source>
+        <translation>Ablegen: Effekt „%1“ auf „%2“</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>end</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>drop: transition “%1” on the %2 of “%3”</source>
+        <translation>Ablegen: Übergang „%1“ auf %2 von „%3“</translation>
+    </message>
+    <message>
+        <source>effect “%1” applied</source>
+        <translation>Effekt „%1“ angewendet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transition(s) placed</source>
+        <translation>
+            <numerusform>%n Übergang platziert</numerusform>
+            <numerusform>%n Übergänge platziert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Effe&amp;cts</source>
+        <translation>Effe&amp;kte</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Transition to Selection</source>
+        <translation>&amp;Übergang auf Auswahl anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Random Transitions</source>
+        <translation>&amp;Zufällige Übergänge</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Effect to Selection</source>
+        <translation>&amp;Effekt auf Auswahl anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Effects</source>
+        <translation>Effekte &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Effects</source>
+        <translation>Effekte &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Effects</source>
+        <translation>Effekte &amp;löschen</translation>
     </message>
 </context>
 </TS>

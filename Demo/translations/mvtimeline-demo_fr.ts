@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>MvDemoEffectsDock</name>
+    <message>
+        <source>Effects</source>
+        <translation>Effets</translation>
+    </message>
+    <message>
+        <source>%1 (sound)</source>
+        <translation>%1 (son)</translation>
+    </message>
+    <message>
+        <source>Apply to Selection</source>
+        <translation>Appliquer à la sélection</translation>
+    </message>
+</context>
+<context>
     <name>MvDemoJournalWords</name>
     <message>
         <source>ask whether to ungroup before splitting</source>
@@ -161,6 +176,10 @@
     <message>
         <source>library %1: %2 (%3)</source>
         <translation>bibliothèque %1 : %2 (%3)</translation>
+    </message>
+    <message>
+        <source>ask whether to replace an audio effect</source>
+        <translation>demander s’il faut remplacer un effet audio</translation>
     </message>
 </context>
 <context>
@@ -802,6 +821,34 @@
         <source>There is no empty track besides the ones that always stay.</source>
         <translation>Il n’y a pas de piste vide en dehors de celles qui restent toujours.</translation>
     </message>
+    <message>
+        <source>Select one clip to copy its effects.</source>
+        <translation>Sélectionnez un clip pour copier ses effets.</translation>
+    </message>
+    <message>
+        <source>“%1” has no effects to copy.</source>
+        <translation>« %1 » n’a pas d’effets à copier.</translation>
+    </message>
+    <message>
+        <source>Copy the effects of a clip first.</source>
+        <translation>Copiez d’abord les effets d’un clip.</translation>
+    </message>
+    <message>
+        <source>Select the clips to paste the effects onto.</source>
+        <translation>Sélectionnez les clips où coller les effets.</translation>
+    </message>
+    <message>
+        <source>Select the clips whose effects are to go.</source>
+        <translation>Sélectionnez les clips dont les effets doivent partir.</translation>
+    </message>
+    <message>
+        <source>The selected clips have no effects.</source>
+        <translation>Les clips sélectionnés n’ont pas d’effets.</translation>
+    </message>
+    <message>
+        <source>Select the clips first.</source>
+        <translation>Sélectionnez d’abord les clips.</translation>
+    </message>
 </context>
 <context>
     <name>MvDemoScene</name>
@@ -852,6 +899,30 @@
     <message>
         <source>cancelled</source>
         <translation>annulé</translation>
+    </message>
+    <message>
+        <source>replace the audio effect of %1</source>
+        <translation>remplacer l’effet audio de %1</translation>
+    </message>
+    <message>
+        <source>Replace audio effect</source>
+        <translation>Remplacer l’effet audio</translation>
+    </message>
+    <message>
+        <source>%1 already plays through an audio effect, and a clip has room for one only. Replace it?</source>
+        <translation>%1 passe déjà par un effet audio, et un clip n’en accepte qu’un. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>keep the audio effect of %1</source>
+        <translation>garder l’effet audio de %1</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1000,41 @@
     <message>
         <source>Show the track again before switching its sound.</source>
         <translation>Réaffichez la piste avant de changer son son.</translation>
+    </message>
+</context>
+<context>
+    <name>MvDemoTransitionsDock</name>
+    <message>
+        <source>Transitions</source>
+        <translation>Transitions</translation>
+    </message>
+    <message>
+        <source>%1 (sound)</source>
+        <translation>%1 (son)</translation>
+    </message>
+    <message>
+        <source>%1 - downloaded when first used</source>
+        <translation>%1 – téléchargé à la première utilisation</translation>
+    </message>
+    <message>
+        <source> frames</source>
+        <translation> images</translation>
+    </message>
+    <message>
+        <source>the item's own</source>
+        <translation>celle de l’élément</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Durée :</translation>
+    </message>
+    <message>
+        <source>Apply to Selection</source>
+        <translation>Appliquer à la sélection</translation>
+    </message>
+    <message>
+        <source>Random Transitions</source>
+        <translation>Transitions aléatoires</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1250,38 @@
     <message>
         <source>Unmute Track</source>
         <translation>Rétablir le son de la piste</translation>
+    </message>
+    <message>
+        <source>Add Effect</source>
+        <translation>Ajouter un effet</translation>
+    </message>
+    <message>
+        <source>Add Effects</source>
+        <translation>Ajouter des effets</translation>
+    </message>
+    <message>
+        <source>Change Clip Data</source>
+        <translation>Modifier les données du clip</translation>
+    </message>
+    <message>
+        <source>Paste Effects</source>
+        <translation>Coller les effets</translation>
+    </message>
+    <message>
+        <source>Random Transitions</source>
+        <translation>Transitions aléatoires</translation>
+    </message>
+    <message>
+        <source>Remove Effects</source>
+        <translation>Retirer les effets</translation>
+    </message>
+    <message>
+        <source>Change Media Handles</source>
+        <translation>Modifier les marges du média</translation>
+    </message>
+    <message>
+        <source>Change Transition Length</source>
+        <translation>Modifier la durée de la transition</translation>
     </message>
 </context>
 <context>
@@ -1551,6 +1689,77 @@
     <message>
         <source>%1 (compound clip)</source>
         <translation>%1 (clip composé)</translation>
+    </message>
+    <message>
+        <source>Select the clips first.</source>
+        <translation>Sélectionnez d’abord les clips.</translation>
+    </message>
+    <message>
+        <source>Choose an effect in the Effects panel first.</source>
+        <translation>Choisissez d’abord un effet dans le panneau Effets.</translation>
+    </message>
+    <message>
+        <source>“%1” is a sound effect: it needs a clip with sound on an unlocked track.</source>
+        <translation>« %1 » est un effet sonore : il lui faut un clip avec son sur une piste non verrouillée.</translation>
+    </message>
+    <message>
+        <source>“%1” changes the picture: it needs a clip with a picture of its own on an unlocked track.</source>
+        <translation>« %1 » modifie l’image : il lui faut un clip avec sa propre image sur une piste non verrouillée.</translation>
+    </message>
+    <message>
+        <source>drop: effect “%1” on “%2”</source>
+        <translation>dépôt : effet « %1 » sur « %2 »</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>début</translation>
+    </message>
+    <message>
+        <source>end</source>
+        <translation>fin</translation>
+    </message>
+    <message>
+        <source>drop: transition “%1” on the %2 of “%3”</source>
+        <translation>dépôt : transition « %1 » sur le/la %2 de « %3 »</translation>
+    </message>
+    <message>
+        <source>effect “%1” applied</source>
+        <translation>effet « %1 » appliqué</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transition(s) placed</source>
+        <translation>
+            <numerusform>%n transition placée</numerusform>
+            <numerusform>%n transitions placées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Effe&amp;cts</source>
+        <translation>Effe&amp;ts</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Transition to Selection</source>
+        <translation>Appliquer la &amp;transition à la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Random Transitions</source>
+        <translation>Transitions &amp;aléatoires</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Effect to Selection</source>
+        <translation>Appliquer l’&amp;effet à la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Effects</source>
+        <translation>&amp;Copier les effets</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Effects</source>
+        <translation>C&amp;oller les effets</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Effects</source>
+        <translation>&amp;Supprimer les effets</translation>
     </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include <functional>
 
 class IMvAbstractMediaItem;
+class IMvTransitionMediaItem;
 class IMvClip;
 class IMvTimeline;
 class QDialog;
@@ -195,6 +196,30 @@ public:
     // to the keyframe (frame is a frame of the clip).
     void selectedKeyFrameChanged(IMvClip* clip, qint64 frame);
 
+    // Transitions. Each runs the item through the preparation chain of addMedias first, and tells
+    // the scene what it placed (an add-media response with the value 2) unless the clips refused.
+    // Drops a transition over the cuts of the clips, or, when no clip is given, at the overlaps of
+    // the whole timeline.
+    void addTransitionMedia(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item, qint64 duration);
+    // Puts a transition on one end of a clip and selects it.
+    void addTransitionMedia(
+        IMvClip* clip, IMvTransitionMediaItem* item, qint64 duration, MVVBLMODEL::MvTransitionType type);
+    // Puts a transition over every cut of the clips, each made from an item chosen at random.
+    void randomAddTransitionMedia(
+        const QList<IMvClip*>& clips, const QList<IMvAbstractMediaItem*>& items, qint64 duration);
+
+    // Effects. Applying them is one undo step, answered with an add-media response (value 1); the
+    // effect clipboard copies the effects of the first selected clip and pastes or deletes them on
+    // the selected clips.
+    void addEffectMedia(IMvClip* clip, IMvAbstractMediaItem* item);
+    void addEffectMedias(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item);
+    void copyEffect();
+    void pasteEffect();
+    void deleteEffect();
+    // Exactly one clip is selected and it has effects.
+    bool hasEffect() const;
+    bool canPasteEffect() const;
+
 Q_SIGNALS:
     void sigClipSelectedChanged();
     void sigClipReplaced();
@@ -238,6 +263,10 @@ protected:
     QDialog* getAddLoadingWgt();
     void notifyAddMediaSucceed(const QList<IMvAbstractMediaItem*>& items, void* context, int value, bool send);
     void notifyTimelineScrollToTrack(const QList<IMvClip*>& clips);
+
+    // Tells the user, once per project, that a transition shows some frames twice (the clips had no
+    // media left beyond the cut).
+    void showRepeatFrame();
 
     void stopMediaPlayer();
     void seekAfterPause();

@@ -38,6 +38,8 @@ public:
     // Runs the long parts of a media insertion on a worker (MvTaskRunner_p.h); a Qt child of the
     // presenter as well, where tests find it.
     std::unique_ptr<MvTaskRunner> taskRunner;
+    // The effect data (user data 13003) of the clip whose effects were copied last.
+    QString copiedEffectData;
 
     // Frame (MvTimelinePresenter.cpp).
     bool isVirtualPlayheadOpen() const;
@@ -97,6 +99,23 @@ public:
     QDialog* getAddLoadingWgt();
     void notifyAddMediaSucceed(const QList<IMvAbstractMediaItem*>& items, void* context, int value, bool send);
     void notifyTimelineScrollToTrack(const QList<IMvClip*>& clips);
+
+    // Transitions (MvTimelinePresenterTransitions.cpp).
+    void addTransitionMedia(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item, qint64 duration);
+    void addTransitionMedia(
+        IMvClip* clip, IMvTransitionMediaItem* item, qint64 duration, MVVBLMODEL::MvTransitionType type);
+    void randomAddTransitionMedia(
+        const QList<IMvClip*>& clips, const QList<IMvAbstractMediaItem*>& items, qint64 duration);
+    void showRepeatFrame();
+
+    // Effects (MvTimelinePresenterEffects.cpp).
+    void addEffectMedia(IMvClip* clip, IMvAbstractMediaItem* item);
+    void addEffectMedias(const QList<IMvClip*>& clips, IMvAbstractMediaItem* item);
+    void copyEffect();
+    void pasteEffect();
+    void deleteEffect();
+    bool hasEffect() const;
+    bool canPasteEffect() const;
 
     // Tracks (MvTimelinePresenterTracks.cpp).
     void adjustTrackHeight(int trackIndex, MVVBLMODEL::MvTrackSizePolicy policy);

@@ -141,6 +141,22 @@
         <source>Unable to add external compound clip. Please try again.</source>
         <translation>Der externe zusammengesetzte Clip konnte nicht hinzugefügt werden. Bitte erneut versuchen.</translation>
     </message>
+    <message>
+        <source>Clip is too short to add transition.</source>
+        <translation>Der Clip ist zu kurz für einen Übergang.</translation>
+    </message>
+    <message>
+        <source>Please select the clip with audio in the timeline.</source>
+        <translation>Bitte in der Zeitleiste den Clip mit Ton auswählen.</translation>
+    </message>
+    <message>
+        <source>Please select the video clip in the timeline.</source>
+        <translation>Bitte in der Zeitleiste den Videoclip auswählen.</translation>
+    </message>
+    <message>
+        <source>There is no extra media where the clips connect, This transition will contain duplicate frames</source>
+        <translation>Wo die Clips aneinanderstoßen, gibt es kein zusätzliches Material. Dieser Übergang wird doppelte Frames enthalten</translation>
+    </message>
 </context>
 <context>
     <name>MvTimelineRenderWidget</name>

@@ -141,6 +141,22 @@
         <source>Unable to add external compound clip. Please try again.</source>
         <translation>Impossible d’ajouter le clip composé externe. Veuillez réessayer.</translation>
     </message>
+    <message>
+        <source>Clip is too short to add transition.</source>
+        <translation>Le clip est trop court pour ajouter une transition.</translation>
+    </message>
+    <message>
+        <source>Please select the clip with audio in the timeline.</source>
+        <translation>Veuillez sélectionner le clip avec audio dans la timeline.</translation>
+    </message>
+    <message>
+        <source>Please select the video clip in the timeline.</source>
+        <translation>Veuillez sélectionner le clip vidéo dans la timeline.</translation>
+    </message>
+    <message>
+        <source>There is no extra media where the clips connect, This transition will contain duplicate frames</source>
+        <translation>Il n’y a pas de média supplémentaire à la jonction des clips. Cette transition contiendra des images dupliquées</translation>
+    </message>
 </context>
 <context>
     <name>MvTimelineRenderWidget</name>

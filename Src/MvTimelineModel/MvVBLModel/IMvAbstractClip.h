@@ -4,6 +4,7 @@
 #include "IMvKeyFrameSelector.h"
 #include "MvRange.h"
 
+#include <QImage>
 #include <QList>
 #include <QMetaType>
 
@@ -14,6 +15,8 @@ class IMvMarkerList;
 class IMvFreezeFrameList;
 class IMvSmartKeyingNodes;
 class IMvTransition;
+class IMvEffectContainer;
+class IMvUndoRedoService;
 class IMvResourceInfo;
 
 // Anything placed on a track: media clips and transitions. Frames are timeline frames; a clip
@@ -55,6 +58,30 @@ public:
     virtual IMvClip* ownerClip() const = 0;
     virtual int identifier() const = 0;
     virtual quint16 placement() const = 0;
+
+    // Transitions made from a media item (IMvTransitionMediaItem::createTransition) are counted
+    // references: the maker holds one, a clip that carries the transition another.
+    // A picture of the transition; null until its item is loaded.
+    virtual QImage thumbnail() const = 0;
+    // The rate that turns the transition's own length (a time) into frames.
+    virtual void setFrameRate(const MVVBLMODEL::MvRational& rate) = 0;
+    // Ends the transition at frame: exclusive, frame is the first frame after it (start() +
+    // length); else its last frame. A transition on a clip stays within the clip.
+    virtual void setEnd(qint64 frame, bool exclusive) = 0;
+    // Gives up the caller's reference.
+    virtual void release() = 0;
+};
+
+// Where a clip takes transitions made from media items.
+class MVVBLMODEL_EXPORT IMvClipTransitions
+{
+public:
+    virtual ~IMvClipTransitions();
+
+    // Puts the transition on this end of the clip, replacing the one there, as one undo step. False
+    // when the clip cannot take it (off the timeline, locked row, a kind the clip does not show or
+    // play, longer than the clip, already on a clip); the caller keeps its reference either way.
+    virtual bool setTransition(IMvTransition* transition, MVVBLMODEL::MvTransitionType type) = 0;
 };
 
 class MVVBLMODEL_EXPORT IMvClip : public IMvAbstractClip
@@ -98,6 +125,23 @@ public:
     virtual bool isRemixed() const = 0;
     // Takes the remix off the clip; false when it has none or its track is locked.
     virtual bool removeRemix() = 0;
+    // Transitions and effects.
+    virtual IMvClipTransitions* transitions() const = 0;
+    // The undo stack of the timeline that holds the clip.
+    virtual IMvUndoRedoService* undoRedoService() const = 0;
+    // The clip's effects; null for a clip that takes none.
+    virtual IMvEffectContainer* effects() const = 0;
+    // Strings a host keeps on the clip by key (MVVBLMODEL::UserDataKey_*); empty when not set.
+    virtual QString userData(int key) const = 0;
+    // An undoable change of one entry; a clip on a locked row keeps its data.
+    virtual void setUserData(int key, const QString& value) = 0;
+    // The same, for a clip that may be null.
+    static void changeUserData(IMvClip* clip, int key, const QString& value);
+    // Unused media before the clip's first frame and after its last, in frames: what a transition
+    // over a cut can show of the clip beyond its ends. Pictures without a source length (stills,
+    // texts) have no end: std::numeric_limits<qint64>::max().
+    virtual qint64 handleBefore() const = 0;
+    virtual qint64 handleAfter() const = 0;
 };
 
 Q_DECLARE_METATYPE(IMvClip*)

@@ -24,6 +24,11 @@ public:
     virtual QString undoName() const = 0; // name of the step undo() would revert
     virtual QString redoName() const = 0;
     virtual QString undoSource() const = 0;
+
+    // While events are paused, what the model tells its observers after a step (views repaint,
+    // panels refresh) is held, and told once when the last pause ends. Pauses nest.
+    virtual void pauseEvents() = 0;
+    virtual void resumeEvents() = 0;
 };
 
 // Everything the model changes while this lives is one undo step.
@@ -35,5 +40,17 @@ public:
 
 private:
     Q_DISABLE_COPY(MvUndoRedoCommander)
+    IMvUndoRedoService* m_service;
+};
+
+// The model's events are paused while this lives (IMvUndoRedoService::pauseEvents).
+class MVVBLMODEL_EXPORT MvPauseEventCommander
+{
+public:
+    explicit MvPauseEventCommander(IMvUndoRedoService* service);
+    ~MvPauseEventCommander();
+
+private:
+    Q_DISABLE_COPY(MvPauseEventCommander)
     IMvUndoRedoService* m_service;
 };

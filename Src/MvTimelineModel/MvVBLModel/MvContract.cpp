@@ -4,8 +4,10 @@
 #include "IMvClipEditService.h"
 #include "IMvClipItems.h"
 #include "IMvColorCompareService.h"
+#include "IMvEffect.h"
 #include "IMvKeyFrameSelector.h"
 #include "IMvMarker.h"
+#include "IMvProjectManager.h"
 #include "IMvResourceInfo.h"
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
@@ -14,6 +16,7 @@
 #include "IMvTimelineRenderService.h"
 #include "IMvTimelineRuler.h"
 #include "IMvTrack.h"
+#include "IMvTransitionMediaItem.h"
 #include "IMvUndoRedoService.h"
 
 IMvAbstractClip::~IMvAbstractClip() = default;
@@ -23,6 +26,13 @@ IMvStockMediaItem::~IMvStockMediaItem() = default;
 IMvVCGMediaItem::~IMvVCGMediaItem() = default;
 IMvCompoundMediaItem::~IMvCompoundMediaItem() = default;
 IMvTransitionList::~IMvTransitionList() = default;
+IMvClipTransitions::~IMvClipTransitions() = default;
+IMvTransitionMediaItem::~IMvTransitionMediaItem() = default;
+IMvEffect::~IMvEffect() = default;
+IMvEffectContainer::~IMvEffectContainer() = default;
+IMvEffectMediaItem::~IMvEffectMediaItem() = default;
+IMvProjectSettings::~IMvProjectSettings() = default;
+IMvProjectManager::~IMvProjectManager() = default;
 IMvClipEditService::~IMvClipEditService() = default;
 IMvFreezeFrameList::~IMvFreezeFrameList() = default;
 IMvSmartKeyingNodes::~IMvSmartKeyingNodes() = default;
@@ -57,4 +67,38 @@ MvUndoRedoCommander::~MvUndoRedoCommander()
 {
     if (m_service)
         m_service->endStep();
+}
+
+MvPauseEventCommander::MvPauseEventCommander(IMvUndoRedoService* service)
+    : m_service(service)
+{
+    if (m_service)
+        m_service->pauseEvents();
+}
+
+MvPauseEventCommander::~MvPauseEventCommander()
+{
+    if (m_service)
+        m_service->resumeEvents();
+}
+
+void IMvClip::changeUserData(IMvClip* clip, int key, const QString& value)
+{
+    if (clip)
+        clip->setUserData(key, value);
+}
+
+namespace {
+// The host's manager; the GUI thread installs it and reads it.
+IMvProjectManager* installedProjectManager = nullptr;
+}
+
+IMvProjectManager* IMvProjectManager::getInstance()
+{
+    return installedProjectManager;
+}
+
+void IMvProjectManager::setInstance(IMvProjectManager* manager)
+{
+    installedProjectManager = manager;
 }

@@ -124,3 +124,14 @@ const char* MvMediaEditorSelectClipMessage::typeName() const
 {
     return "MvMediaEditorSelectClipMessage";
 }
+
+MvAudioEffectOverrideMessage::MvAudioEffectOverrideMessage(const QList<IMvClip*>& clips)
+    : MvQueryMessage(MVVBLMODEL::MessageId::AudioEffectOverride)
+    , m_clips(clips)
+{
+}
+
+const char* MvAudioEffectOverrideMessage::typeName() const
+{
+    return "MvAudioEffectOverrideMessage";
+}

@@ -170,3 +170,19 @@ private:
     QList<IMvClip*> m_clips;
     bool m_replace = false;
 };
+
+// ---- Transitions and effects.
+
+// Asks the user whether the audio effect of these clips is to be replaced; answer true to replace.
+// An unanswered question reads as no.
+class MVVBLMODEL_EXPORT MvAudioEffectOverrideMessage : public MvQueryMessage
+{
+public:
+    explicit MvAudioEffectOverrideMessage(const QList<IMvClip*>& clips = QList<IMvClip*>());
+
+    QList<IMvClip*> clips() const { return m_clips; }
+    const char* typeName() const override;
+
+private:
+    QList<IMvClip*> m_clips;
+};

@@ -133,6 +133,32 @@ constexpr quint32 MediaInfoFlag_OwnVideoSettings = 0x1; // a frame rate and size
 constexpr unsigned AddMediaFlag_ExternalCompound = 4; // a compound clip of another project was refused
 constexpr unsigned AddMediaFlag_NestsItself = 8; // a compound clip would have contained itself
 
+// Transitions and effects: media items that are laid over a cut or applied to clips, what a clip
+// can carry, and the user data a host keeps on a clip.
+constexpr MvMediaType MediaType_VideoEffect = 10;
+constexpr MvMediaType MediaType_AudioEffect = 11;
+constexpr MvMediaType MediaType_Transition = 12; // video or audio: IMvTransitionMediaItem::isAudioTransition
+
+// Which end of its clip a transition sits on (the same codes as IMvTransition::placement).
+using MvTransitionType = int;
+constexpr MvTransitionType TransitionType_Start = 1; // over the clip's first frames, from the clip before
+constexpr MvTransitionType TransitionType_End = 2; // over the clip's last frames, into the clip after
+
+// Keys of IMvClip::userData.
+constexpr int UserDataKey_EffectData = 13003; // the effect data string of a clip (copied and pasted with its effects)
+
+// What a clip of a type shows and plays.
+inline bool clipHasPicture(MvClipType type)
+{
+    return !isAudioClipType(type) && type != ClipType_Transition && type >= ClipType_Audio
+        && type <= ClipType_SoundEffect;
+}
+inline bool clipHasSound(MvClipType type)
+{
+    return isAudioClipType(type) || type == ClipType_VideoWithAudio || type == ClipType_ScreenRecording
+        || type == ClipType_Compound;
+}
+
 // One keyframed property of an effect.
 struct MvEffectPropertyBaseInfo
 {
@@ -176,6 +202,8 @@ constexpr int SelectVCGResolution = 3017; // MvVCGSelectResolutionMediaItemMessa
 constexpr int MatchProjectSettings = 3018; // MvMatchProjMediaItemMessage
 constexpr int AddMediaResponse = 3019; // MvTimelineAddMediaResponseMessage
 constexpr int ScrollToTrack = 3020; // MvTimelineScrollToTrackMessage
+// Transitions and effects.
+constexpr int AudioEffectOverride = 3030; // MvAudioEffectOverrideMessage: answer true to replace the clip's audio effect
 // Library resources and composed texts.
 constexpr int MediaLibraryFindSimilar = 9061;    // MvMediaLibraryFindSimilarMessage
 constexpr int MediaEditorSelectClip = 9062;      // MvMediaEditorSelectClipMessage

@@ -15,7 +15,9 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
         && content == other.content && resource == other.resource && container == other.container
         && children == other.children && secondary == other.secondary && muted == other.muted
-        && remixed == other.remixed && textColor == other.textColor && backgroundColor == other.backgroundColor;
+        && remixed == other.remixed && textColor == other.textColor && backgroundColor == other.backgroundColor
+        && effects == other.effects && userData == other.userData && handleBefore == other.handleBefore
+        && handleAfter == other.handleAfter;
 }
 
 // ---- transitions
@@ -23,6 +25,7 @@ bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
 MvMemoryTransition::MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state)
     : MvMemoryValued<State>(timeline->undoRecorder(), state)
     , m_identifier(identifier)
+    , m_timeline(timeline)
     , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
     valueChanged();
@@ -45,7 +48,7 @@ qint64 MvMemoryTransition::end() const
 {
     const State& s = state();
     if (!s.owner)
-        return 0;
+        return s.length - 1;
     return s.placement == AtStart ? s.owner->start() + s.length - 1 : s.owner->end();
 }
 
@@ -183,6 +186,7 @@ MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& 
     , m_transitions(new MvMemoryTransitionList(this))
     , m_freezeFrames(new MvMemoryFreezeFrameList(this))
     , m_nodes(new MvMemorySmartKeyingNodes(this))
+    , m_effects(new MvMemoryEffectContainer(this, false))
     , m_resourceInfo(new MvMemoryResourceInfo(&this->state().resource))
 {
     valueChanged();
@@ -190,6 +194,7 @@ MvMemoryClip::MvMemoryClip(MvMemoryTimeline* timeline, int number, const State& 
 
 MvMemoryClip::~MvMemoryClip()
 {
+    delete m_effects;
     delete m_nodes;
     delete m_freezeFrames;
     delete m_transitions;

@@ -5,11 +5,14 @@
 #include "IMvAbstractClip.h"
 #include "IMvClipItems.h"
 #include "IMvTimelineClip.h"
+#include "MvMemoryEffects.h"
 #include "MvMemoryMarker.h"
 #include "MvMemoryResource.h"
 #include "MvMemoryUndoable.h"
 
+#include <QAtomicInt>
 #include <QColor>
+#include <QImage>
 #include <QMap>
 
 #include <memory>
@@ -28,12 +31,13 @@ struct MvMemoryTransitionState
     qint64 length = 1;
     QString name;
     bool attached = true;
+    bool audio = false; // blends the sound of the clips, not their pictures
     MvMemoryResource resource; // library resources (MvMemoryResource.cpp)
 
     bool operator==(const MvMemoryTransitionState& other) const
     {
         return owner == other.owner && placement == other.placement && length == other.length && name == other.name
-            && attached == other.attached && resource == other.resource;
+            && attached == other.attached && audio == other.audio && resource == other.resource;
     }
 };
 
@@ -46,6 +50,10 @@ public:
     using State = MvMemoryTransitionState;
 
     MvMemoryTransition(MvMemoryTimeline* timeline, int identifier, const State& state);
+    // A transition made from a media item (MvMemoryTransitionItems.cpp): on no timeline and no clip
+    // until a clip takes it (IMvClipTransitions::setTransition); its own length is a time, made
+    // frames by its frame rate. The maker holds the one reference.
+    MvMemoryTransition(const State& state, qint64 ownLengthMs, const QImage& thumbnail);
 
     MVVBLMODEL::MvClipType type() const override;
     qint64 start() const override;
@@ -55,6 +63,18 @@ public:
     int identifier() const override;
     quint16 placement() const override;
     void range(MvRange<qint64>& range) const override;
+    // Made from media items (MvMemoryTransitionItems.cpp). A timeline keeps every transition put on
+    // one of its clips for as long as it lives: release() frees only a transition on none.
+    QImage thumbnail() const override;
+    void setFrameRate(const MVVBLMODEL::MvRational& rate) override;
+    void setEnd(qint64 frame, bool exclusive) override;
+    void release() override;
+    void retain();
+    // The timeline whose clip took the transition first; null while it is on none.
+    MvMemoryTimeline* timeline() const { return m_timeline; }
+    // A clip of this timeline takes the transition for the first time.
+    void joinTimeline(MvMemoryTimeline* timeline);
+    bool isAudio() const { return state().audio; }
     IMvResourceInfo* resourceInfo() const override;
 
     // Library resources (MvMemoryResource.cpp): an undoable edit.
@@ -74,10 +94,17 @@ private:
     Q_DISABLE_COPY(MvMemoryTransition)
     int m_identifier;
     MvMemoryClip* m_indexedOwner = nullptr; // the owner whose list holds this transition
+    MvMemoryTimeline* m_timeline = nullptr;
+    QAtomicInt m_references { 1 };
+    QImage m_thumbnail;
+    MVVBLMODEL::MvRational m_frameRate;
+    qint64 m_ownLengthMs = 0; // 0: the length is in frames already
     std::unique_ptr<MvMemoryResourceInfo> m_resourceInfo;
 };
 
-class MVMEMORY_EXPORT MvMemoryTransitionList : public IMvTransitionList
+// A clip's transitions: the list the presenters read, and the ends where transitions made from
+// media items go (setTransition, MvMemoryTransitionItems.cpp).
+class MVMEMORY_EXPORT MvMemoryTransitionList : public IMvTransitionList, public IMvClipTransitions
 {
 public:
     explicit MvMemoryTransitionList(MvMemoryClip* clip)
@@ -87,6 +114,7 @@ public:
 
     QList<IMvTransition*> transitions() const override;
     bool remove(int identifier, quint16 placement) override;
+    bool setTransition(IMvTransition* transition, MVVBLMODEL::MvTransitionType type) override;
 
 private:
     MvMemoryClip* m_clip;
@@ -151,6 +179,12 @@ struct MvMemoryClipState
     // Colours of a text or subtitle clip given at its insertion (invalid: the defaults).
     QColor textColor;
     QColor backgroundColor;
+    // Transitions and effects (MvMemoryEffects.cpp, MvMemoryTransitionItems.cpp): the effects the
+    // clip carries, a host's strings by key, and the unused media before and after the clip.
+    MvMemoryClipEffects effects;
+    QMap<int, QString> userData;
+    qint64 handleBefore = 0;
+    qint64 handleAfter = 0;
     // Library resources (MvMemoryResource.cpp).
     MvMemoryResource resource;
     // Composed texts (MvMemoryTextContainer.cpp): the item a layer belongs to, an item's layers
@@ -209,6 +243,21 @@ public:
     void setMuted(quint16 muted) override;
     bool isRemixed() const override;
     bool removeRemix() override;
+    // Transitions and effects (MvMemoryEffects.cpp, MvMemoryTransitionItems.cpp).
+    IMvClipTransitions* transitions() const override;
+    IMvUndoRedoService* undoRedoService() const override;
+    IMvEffectContainer* effects() const override;
+    QString userData(int key) const override;
+    void setUserData(int key, const QString& value) override;
+    qint64 handleBefore() const override;
+    qint64 handleAfter() const override;
+    // Which kinds of clip take video effects, audio effects, and have a source of a fixed length
+    // (the others are pictures that last as long as they are shown, and never run out).
+    static bool takesVideoEffects(MVVBLMODEL::MvClipType type);
+    static bool takesAudioEffects(MVVBLMODEL::MvClipType type);
+    static bool hasSourceLength(MVVBLMODEL::MvClipType type);
+    // A set-up hook: the unused media before and after the clip, an undoable edit.
+    void setHandles(qint64 before, qint64 after);
     IMvResourceInfo* resourceInfo() const override;
     bool isSecondary() const override;
     // IMvTimelineClip
@@ -270,6 +319,7 @@ private:
     MvMemoryTransitionList* m_transitions;
     MvMemoryFreezeFrameList* m_freezeFrames;
     MvMemorySmartKeyingNodes* m_nodes;
+    MvMemoryEffectContainer* m_effects;
     // Where a track's lookup holds this clip.
     MvMemoryTrack* m_indexedTrack = nullptr;
     qint64 m_indexedStart = 0;

@@ -3,6 +3,7 @@
 #include "MvMemoryGlobal.h"
 
 #include "IMvClipEditService.h"
+#include "MvMemoryEffects.h"
 
 class MvMemoryTimeline;
 
@@ -28,6 +29,16 @@ public:
     void ungroup(const QList<IMvClip*>& members) override;
     void group(const QList<IMvClip*>& members, int groupKind) override;
 
+    // The effect clipboard (MvMemoryEffects.cpp): the effects of the clip copied last, as values.
+    void copyEffect(IMvClip* clip) override;
+    bool canPasteEffect() const override;
+    bool needAudioEffectOverride(const QList<IMvClip*>& clips) const override;
+    bool pasteEffect(const QList<IMvClip*>& clips) override;
+    bool removeEffects(const QList<IMvClip*>& clips) override;
+    bool hasEffect(IMvClip* clip) const override;
+    const MvMemoryClipEffects& copiedEffects() const;
+
 private:
     MvMemoryTimeline* m_timeline;
+    MvMemoryClipEffects m_copiedEffects;
 };

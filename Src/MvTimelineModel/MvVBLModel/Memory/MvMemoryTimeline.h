@@ -118,6 +118,9 @@ public:
         MvMemoryClip* container, MVVBLMODEL::MvClipType type, const QString& name, bool secondary);
     // A change of the project's frame rate (an undo step); positions stay in frames.
     void setFrameRate(int numerator, int denominator);
+    // Transitions and effects (MvMemoryTransitionItems.cpp): a transition made from a media item that
+    // a clip of this timeline took; the timeline keeps it from now on.
+    void adoptTransition(MvMemoryTransition* transition);
 
     // The project the timeline belongs to, and its name: compound clips refuse to be put into a
     // timeline of another project or into the timeline they show.

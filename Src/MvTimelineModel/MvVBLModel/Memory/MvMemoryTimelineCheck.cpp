@@ -206,6 +206,7 @@ QString MvMemoryTimeline::checkInvariants() const
     d->checkTracks(problems);
     d->checkClips(problems);
     d->checkGroupsAndTransitions(problems);
+    d->checkTransitionsAndEffects(problems);
     d->checkItems(problems);
     d->checkChildren(problems);
     return problems.join(QLatin1Char('\n'));
@@ -244,10 +245,12 @@ QString MvMemoryTimelinePrivate::clipText(const MvMemoryClip* clip) const
     for (const MvMemoryTransition* transition : transitions) {
         text += QLatin1String("\n    transition ") % num(transition->identifier()) % QLatin1String(" at ")
             % num(transition->placement()) % QLatin1Char(' ') % num(transition->start()) % QLatin1String("..")
-            % num(transition->end()) % QLatin1String(" \"") % transition->name() % QLatin1Char('"');
+            % num(transition->end()) % QLatin1String(" \"") % transition->name() % QLatin1Char('"')
+            % (transition->isAudio() ? QLatin1String(" audio") : QLatin1String());
         if (transition->state().resource.isLibraryResource())
             text += QLatin1Char(' ') % MvMemoryResources::text(transition->state().resource);
     }
+    text += transitionsAndEffectsText(clip);
     return text;
 }
 

@@ -212,6 +212,8 @@ MvMemoryClip* MvMemoryTimelinePrivate::cutClip(MvMemoryClip* clip, qint64 frame)
     // Smart-keying nodes belong to the effect set up on the source; the piece starts without.
     piece.smartKeying = false;
     piece.smartKeyingNodes = 0;
+    // Each piece's media goes on where the other piece takes over.
+    piece.handleBefore += offset;
     {
         auto source = clip->change();
         piece.videoKeys = splitTail(source->videoKeys, offset);
@@ -225,6 +227,7 @@ MvMemoryClip* MvMemoryTimelinePrivate::cutClip(MvMemoryClip* clip, qint64 frame)
                 ++it;
             }
         }
+        source->handleAfter += source->end - frame + 1;
         source->end = frame - 1;
     }
 
@@ -277,6 +280,7 @@ bool MvMemoryTimelinePrivate::trimStart(MvMemoryClip* clip, qint64 frame)
         value->videoKeys = keepRange(value->videoKeys, offset, last);
         value->audioKeys = keepRange(value->audioKeys, offset, last);
         value->freezeFrames = keepFreezeRange(value->freezeFrames, offset, last);
+        value->handleBefore += offset;
         value->start = frame;
     }
     clip->markerList()->dropOutside(offset, last);
@@ -295,6 +299,7 @@ bool MvMemoryTimelinePrivate::trimEnd(MvMemoryClip* clip, qint64 frame)
         value->videoKeys = keepRange(value->videoKeys, 0, last);
         value->audioKeys = keepRange(value->audioKeys, 0, last);
         value->freezeFrames = keepFreezeRange(value->freezeFrames, 0, last);
+        value->handleAfter += value->end - frame;
         value->end = frame;
     }
     clip->markerList()->dropOutside(0, last);

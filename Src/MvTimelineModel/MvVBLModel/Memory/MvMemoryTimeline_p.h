@@ -87,6 +87,9 @@ public:
     // Track commands and audio detach (MvMemoryTracks.cpp, MvMemoryAudio.cpp).
     MvMemoryTrack* insertTrack(MVVBLMODEL::MvTrackType type, int index);
     MvMemoryTrack* soundRowFor(const MvMemoryClip* clip, int trackIndex);
+    // Transitions and effects (MvMemoryTransitionItems.cpp).
+    void checkTransitionsAndEffects(QStringList& problems) const;
+    QString transitionsAndEffectsText(const MvMemoryClip* clip) const;
     // Composed texts (MvMemoryTextContainer.cpp): layers of their own for a copy of an item.
     void copyChildren(MvMemoryClip* copy, const QList<MvMemoryClip*>& children);
     void checkChildren(QStringList& problems) const;

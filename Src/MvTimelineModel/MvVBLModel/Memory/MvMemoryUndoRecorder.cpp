@@ -18,6 +18,14 @@ MvMemoryUndoable::MvMemoryUndoable(MvMemoryUndoRecorder* recorder)
 
 MvMemoryUndoable::~MvMemoryUndoable() = default;
 
+void MvMemoryUndoable::joinRecorder(MvMemoryUndoRecorder* recorder)
+{
+    if (m_recorder || !recorder)
+        return;
+    m_recorder = recorder;
+    m_recorder->adopt(this);
+}
+
 void MvMemoryUndoable::aboutToChange()
 {
     if (m_recorder)

@@ -42,8 +42,7 @@ void MvMemoryUndoService::endStep()
         return;
     m_undo.push_back(std::move(closed));
     m_redo.clear();
-    if (m_changed)
-        m_changed(m_undo.back().changes);
+    tell(m_undo.back().changes);
 }
 
 bool MvMemoryUndoService::isStepOpen() const
@@ -71,8 +70,7 @@ bool MvMemoryUndoService::undo()
     m_recorder->apply(m_redo.back().changes, true);
     if (m_restored)
         m_restored();
-    if (m_changed)
-        m_changed(m_redo.back().changes);
+    tell(m_redo.back().changes);
     return true;
 }
 
@@ -86,8 +84,7 @@ bool MvMemoryUndoService::redo()
     m_recorder->apply(m_undo.back().changes, false);
     if (m_restored)
         m_restored();
-    if (m_changed)
-        m_changed(m_undo.back().changes);
+    tell(m_undo.back().changes);
     return true;
 }
 
@@ -138,4 +135,33 @@ void MvMemoryUndoService::clear()
 {
     m_undo.clear();
     m_redo.clear();
+}
+
+void MvMemoryUndoService::pauseEvents()
+{
+    MvMemoryThreadGate::Locker locker(m_gate);
+    ++m_paused;
+}
+
+void MvMemoryUndoService::resumeEvents()
+{
+    MvMemoryThreadGate::Locker locker(m_gate);
+    if (m_paused == 0 || --m_paused > 0 || !m_holding)
+        return;
+    MvMemoryUndoRecorder::Step held;
+    held.swap(m_held);
+    m_holding = false;
+    if (m_changed)
+        m_changed(held);
+}
+
+void MvMemoryUndoService::tell(const MvMemoryUndoRecorder::Step& changes)
+{
+    if (m_paused > 0) {
+        m_held.insert(m_held.end(), changes.cbegin(), changes.cend());
+        m_holding = true;
+        return;
+    }
+    if (m_changed)
+        m_changed(changes);
 }

@@ -40,6 +40,11 @@ public:
     QString undoName() const override;
     QString redoName() const override;
     QString undoSource() const override;
+    // What the steps recorded, undone or redone while paused changed is told once, as one change,
+    // when the last pause ends.
+    void pauseEvents() override;
+    void resumeEvents() override;
+    int eventPauseDepth() const { return m_paused; }
 
     int stepDepth() const { return m_depth; }
     QString redoSource() const;
@@ -57,6 +62,8 @@ private:
         MvMemoryUndoRecorder::Step changes;
     };
 
+    void tell(const MvMemoryUndoRecorder::Step& changes);
+
     MvMemoryUndoRecorder* m_recorder;
     MvMemoryThreadGate* m_gate = nullptr;
     Restored m_restored;
@@ -65,4 +72,7 @@ private:
     std::vector<Step> m_redo;
     Step m_open;
     int m_depth = 0;
+    int m_paused = 0;
+    MvMemoryUndoRecorder::Step m_held; // told when the events resume
+    bool m_holding = false;
 };

@@ -59,6 +59,9 @@ protected:
     // group, ...) in line with the value. Called after every change, undo and redo.
     virtual void valueChanged() { }
     MvMemoryUndoRecorder* recorder() const { return m_recorder; }
+    // An object made off any timeline (a transition a media item made) is recorded from the moment
+    // it joins a timeline: its value then counts as made in the open step. Once only.
+    void joinRecorder(MvMemoryUndoRecorder* recorder);
 
 private:
     Q_DISABLE_COPY(MvMemoryUndoable)

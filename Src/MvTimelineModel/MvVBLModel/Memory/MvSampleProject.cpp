@@ -4,9 +4,11 @@
 #include "MvMemoryClip.h"
 #include "MvMemoryCompoundMediaItem.h"
 #include "MvMemoryEditService.h"
+#include "MvMemoryEffects.h"
 #include "MvMemoryMediaLibrary.h"
 #include "MvMemoryResource.h"
 #include "MvMemoryTimeline.h"
+#include "MvMemoryTransitionItems.h"
 #include "MvMemoryUndoService.h"
 
 #include <QColor>
@@ -168,6 +170,7 @@ void MvSampleProject::build(MvMemoryTimeline& timeline)
     screen->setSmartKeyingNodeCount(3);
     caption->setMotionTrackingEnabled(true);
     addAudioContent(timeline);
+    addHandlesAndEffects(timeline);
     addLibraryResources(timeline);
     composeLowerThird(timeline);
 
@@ -277,4 +280,46 @@ void MvSampleProject::buildMediaLibrary(MvMemoryMediaLibrary& library, MvMemoryT
 
     auto* itself = library.add(new MvMemoryCompoundMediaItem(QStringLiteral("This timeline"), &project, nullptr));
     itself->setOrigin(MediaOrigin_Project);
+    addTransitionAndEffectItems(library);
+}
+
+void MvSampleProject::addHandlesAndEffects(MvMemoryTimeline& timeline)
+{
+    // The main story, row 2: the harbour and the street were shot long, the boats a little, the
+    // route planner not at all; the map is a still and never runs out.
+    const QList<QPair<QString, QPair<qint64, qint64>>> handles {
+        { QStringLiteral("Harbour at dawn"), { 0, 45 } },
+        { QStringLiteral("Harbour at dawn (sound)"), { 0, 45 } },
+        { QStringLiteral("Market street"), { 60, 0 } },
+        { QStringLiteral("Fishing boats"), { kSecond, kSecond } },
+    };
+    const QList<MvMemoryClip*> clips = timeline.liveClips();
+    for (MvMemoryClip* clip : clips) {
+        for (const auto& entry : handles) {
+            if (clip->name() == entry.first)
+                clip->setHandles(entry.second.first, entry.second.second);
+        }
+        if (clip->name() == QLatin1String("Fishing boats")) {
+            auto* effect = new MvMemoryEffect(QStringLiteral("Warm tint"), false);
+            clip->effects()->addEffect(effect);
+            effect->release();
+        }
+    }
+}
+
+void MvSampleProject::addTransitionAndEffectItems(MvMemoryMediaLibrary& library)
+{
+    library.add(
+        new MvMemoryTransitionMediaItem(QStringLiteral("Dissolve"), MvMemoryTransitionMediaItem::Dissolve, kMs));
+    library.add(new MvMemoryTransitionMediaItem(QStringLiteral("Wipe"), MvMemoryTransitionMediaItem::Wipe, 800));
+    auto* slide = library.add(
+        new MvMemoryTransitionMediaItem(QStringLiteral("Slide"), MvMemoryTransitionMediaItem::Slide, 700));
+    slide->setRemote(true);
+    library.add(new MvMemoryTransitionMediaItem(
+        QStringLiteral("Audio crossfade"), MvMemoryTransitionMediaItem::Crossfade, kMs));
+
+    for (const QString& name : { QStringLiteral("Blur"), QStringLiteral("Sepia"), QStringLiteral("Vignette") })
+        library.add(new MvMemoryEffectMediaItem(name, false, 5 * kMs));
+    for (const QString& name : { QStringLiteral("Echo"), QStringLiteral("Noise reduction") })
+        library.add(new MvMemoryEffectMediaItem(name, true, 5 * kMs));
 }

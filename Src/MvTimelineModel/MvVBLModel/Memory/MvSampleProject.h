@@ -12,8 +12,8 @@ class MvMemoryTimeline;
 // The demo's built-in project: three picture rows and two audio rows, about two minutes at 30
 // frames per second, with clips of every common kind, a transition, a linked group, markers,
 // keyframes and a freeze frame, clips made from library resources (some of them known to the
-// library's similarity search) and a composed text with primary and secondary layers. It leaves
-// the undo history empty and the playhead at frame 0.
+// library's similarity search), a composed text with primary and secondary layers, media handles
+// (some clips have none) and an effect. It leaves the undo history empty and the playhead at frame 0.
 //
 // As an object it owns the project's timelines: the main one (built as above, with a compound
 // clip added), the sequence that compound clip shows, and a small timeline of another project
@@ -43,4 +43,10 @@ private:
     QScopedPointer<MvMemoryTimeline> m_otherSequence;
     QScopedPointer<MvMemoryTimeline> m_otherProject;
     QScopedPointer<MvMemoryTimeline> m_timeline;
+    // Media handles on the main story's clips (some have none: a transition over their cut repeats
+    // frames) and a video effect on one clip.
+    static void addHandlesAndEffects(MvMemoryTimeline& timeline);
+    // Transition items (dissolve, wipe, a slide that needs a download, an audio crossfade) and
+    // effect items (video and audio).
+    static void addTransitionAndEffectItems(MvMemoryMediaLibrary& library);
 };
