@@ -13,10 +13,46 @@ constexpr int kMarkerHeight = 14;
 constexpr int kToolTipSeconds = 3;
 }
 
+namespace {
+
+// Tool tips naming the marker under the pointer. A filter rather than an event() override, so that
+// the strip's own event handling stays that of the widget it derives from.
+class MvMarkerToolTips : public QObject
+{
+public:
+    explicit MvMarkerToolTips(MvMarkerWidget* strip)
+        : QObject(strip)
+        , m_strip(strip)
+    {
+        strip->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched != m_strip || event->type() != QEvent::ToolTip)
+            return false;
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = m_strip->markerDescription(m_strip->markerAt(help->pos()));
+        if (text.isEmpty()) {
+            MvToolTipHelper::hideToolTip();
+            event->ignore();
+            return true;
+        }
+        MvToolTipHelper::showToolTip(help->globalPos(), text, true, kToolTipSeconds);
+        return true;
+    }
+
+private:
+    MvMarkerWidget* m_strip;
+};
+
+}
+
 MvMarkerWidget::MvMarkerWidget(MvMarkerPresenter* presenter, QWidget* parent)
     : MvWidget(parent)
     , m_stripPainter(new MvMarkerStripPainter)
 {
+    new MvMarkerToolTips(this);
     setPresenter(presenter);
 }
 
@@ -74,21 +110,6 @@ void MvMarkerWidget::slotMarkerCountChanged()
     m_markers = m_presenter->markerList();
     update();
     MvAccessibleAnnouncer::valueChanged(this);
-}
-
-bool MvMarkerWidget::event(QEvent* event)
-{
-    if (event->type() != QEvent::ToolTip)
-        return MvWidget::event(event);
-    const auto* help = static_cast<QHelpEvent*>(event);
-    const QString text = markerDescription(markerAt(help->pos()));
-    if (text.isEmpty()) {
-        MvToolTipHelper::hideToolTip();
-        event->ignore();
-        return true;
-    }
-    MvToolTipHelper::showToolTip(help->globalPos(), text, true, kToolTipSeconds);
-    return true;
 }
 
 void MvMarkerWidget::slotClearTimelineSelectedMarker()

@@ -47,8 +47,6 @@ public Q_SLOTS:
     void slotClearTimelineSelectedMarker();
 
 protected:
-    // Tool tips: the name and time of the marker under the pointer.
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
     MvMarkerPresenter* m_presenter = nullptr;
