@@ -31,6 +31,8 @@ public:
     void moveRulerRange(bool backward);
     void updateTimelineMenu();
     void paint(QWidget* widget);
+    qint64 currentFrame() const;
+    void setCurrentFrame(qint64 frame);
 
     MvTimelinePresenter* timelinePresenter;
     MvTimelineRulerPresenter* q_ptr;
