@@ -27,6 +27,7 @@
 #include "MvDemoToastHost.h"
 #include "MvDemoTrackArea.h"
 #include "MvDemoTrackHeaders.h"
+#include "MvDemoUndoWords.h"
 #include "MvTimelineRulerPresenter.h"
 #include "MvTimelineRulerWidget.h"
 
@@ -362,10 +363,10 @@ void MvDemoWindow::refreshActions()
     IMvUndoRedoService* undo = m_timeline->undoRedoService();
     m_actions.value(QStringLiteral("undo"))->setEnabled(undo->canUndo());
     m_actions.value(QStringLiteral("undo"))
-        ->setText(undo->canUndo() ? tr("&Undo %1").arg(undo->undoName()) : tr("&Undo"));
+        ->setText(undo->canUndo() ? tr("&Undo %1").arg(MvDemoUndoWords::step(undo->undoName())) : tr("&Undo"));
     m_actions.value(QStringLiteral("redo"))->setEnabled(undo->canRedo());
     m_actions.value(QStringLiteral("redo"))
-        ->setText(undo->canRedo() ? tr("&Redo %1").arg(undo->redoName()) : tr("&Redo"));
+        ->setText(undo->canRedo() ? tr("&Redo %1").arg(MvDemoUndoWords::step(undo->redoName())) : tr("&Redo"));
     setWindowModified(undo->canUndo());
     refreshEditActions();
     refreshPanelActions();

@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QTranslator>
@@ -62,6 +63,12 @@ private Q_SLOTS:
     void layoutMovesOnlyTheRowsOfLongCaptions();
     void namesAndCommentsStopAt400Characters();
     void swatchRowLaysOutSelectsAndFramesTheSelection();
+    void keysMoveAndPickTheColour_data();
+    void keysMoveAndPickTheColour();
+    void colourIsPickedAndAppliedWithoutAMouse();
+    void focusMarkShowsOnlyWhileTheRowHasTheKeyboard();
+    void hostStyleSheetLinesUpTheFieldsAndDressesTheButtons();
+    void languageChangeRetranslatesTheDialog();
 };
 
 void tst_MvMarkerEditDialog::resultAndParamTellHowTheDialogEnded_data()
@@ -168,6 +175,144 @@ void tst_MvMarkerEditDialog::swatchRowLaysOutSelectsAndFramesTheSelection()
     // Unselected cells are filled to the edge; the selected one gets a frame 1 px in, in the skin's text
     // colour ('?': none of the cell colours).
     QCOMPARE(mvColorsAt(&row, { { 0, 8 }, { 32, 8 }, { 48, 0 }, { 25, 8 } }), QStringLiteral("RGB?"));
+}
+
+void tst_MvMarkerEditDialog::keysMoveAndPickTheColour_data()
+{
+    QTest::addColumn<int>("initial"); // the marker's colour index
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<int>("selected");
+    using Keys = QList<int>;
+    QTest::newRow("space picks the first when none is chosen") << -1 << Keys { Qt::Key_Space } << 0;
+    QTest::newRow("enter picks the marked swatch") << -1 << Keys { Qt::Key_Enter } << 0;
+    QTest::newRow("right moves the choice") << -1 << Keys { Qt::Key_Right } << 1;
+    QTest::newRow("arrows start at the chosen swatch") << 1 << Keys { Qt::Key_Down } << 2;
+    QTest::newRow("right stops at the last") << 0 << Keys { Qt::Key_Right, Qt::Key_Right, Qt::Key_Right } << 2;
+    QTest::newRow("left stops at the first") << 1 << Keys { Qt::Key_Left, Qt::Key_Up } << 0;
+    QTest::newRow("end then home") << -1 << Keys { Qt::Key_End, Qt::Key_Home } << 0;
+    QTest::newRow("end") << 0 << Keys { Qt::Key_End } << 2;
+    QTest::newRow("other keys leave the choice") << 1 << Keys { Qt::Key_A, Qt::Key_Tab } << 1;
+}
+
+void tst_MvMarkerEditDialog::keysMoveAndPickTheColour()
+{
+    QFETCH(int, initial);
+    QFETCH(QList<int>, keys);
+    QFETCH(int, selected);
+    MvMarkerParam param = sampleParam();
+    param.colorIndex = initial;
+    MvMarkerEditDialog dialog(param, nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    MvMarkerEditColor* row = dialog.panel()->colorRow();
+    row->setFocus(Qt::TabFocusReason);
+    QVERIFY(row->hasFocus());
+    for (int key : keys)
+        QTest::keyClick(row, Qt::Key(key));
+    QCOMPARE(row->selectedIndex(), selected);
+    QCOMPARE(row->currentIndex(), selected);
+    QVERIFY(dialog.isVisible()); // Enter picked the colour; it did not press a button
+}
+
+// Tab into the swatches, choose with an arrow, Tab on to OK and press it: the marker gets the colour.
+void tst_MvMarkerEditDialog::colourIsPickedAndAppliedWithoutAMouse()
+{
+    MvMarkerEditDialog dialog(sampleParam(), nullptr);
+    QStringList focusPath; // the widgets the keyboard went through, by object name
+    const int result = exec(dialog, [&focusPath](MvMarkerEditDialog* shown) {
+        if (!QTest::qWaitForWindowActive(shown))
+            return shown->reject();
+        const auto press = [&focusPath](Qt::Key key) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+            QWidget* focus = QApplication::focusWidget();
+            focusPath.append(focus ? focus->objectName() : QStringLiteral("(closed)"));
+        };
+        shown->panel()->nameEdit()->setFocus(Qt::OtherFocusReason);
+        for (int tab = 0; tab < 6 && QApplication::focusWidget() != shown->panel()->colorRow(); ++tab)
+            press(Qt::Key_Tab);
+        press(Qt::Key_Right);
+        press(Qt::Key_Tab);
+        press(Qt::Key_Space);
+        if (shown->isVisible())
+            shown->reject();
+    });
+    QCOMPARE(focusPath.filter(QStringLiteral("Row")).size(), 2); // reached, then the arrow kept it there
+    QCOMPARE(focusPath.mid(focusPath.indexOf(QStringLiteral("colorRow"))),
+        QStringList({ QStringLiteral("colorRow"), QStringLiteral("colorRow"), QStringLiteral("okButton"),
+            QStringLiteral("(closed)") }));
+    QCOMPARE(result, int(MvMarkerEditDialog::Applied));
+    QCOMPARE(dialog.markerParam().colorIndex, 2);
+}
+
+void tst_MvMarkerEditDialog::focusMarkShowsOnlyWhileTheRowHasTheKeyboard()
+{
+    QWidget window;
+    auto* edit = new QLineEdit(&window);
+    edit->setGeometry(0, 30, 100, 20);
+    auto* row = new MvMarkerEditColor({ QColor(Qt::red), QColor(Qt::yellow), QColor(Qt::blue) }, &window);
+    row->setGeometry(0, 0, 250, 16);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    edit->setFocus();
+    // Centres of the three cells and a corner of the second (the selection frame's place).
+    const QList<QPoint> probes { { 8, 8 }, { 32, 8 }, { 56, 8 }, { 24, 0 } };
+    QCOMPARE(mvColorsAt(row, probes), QStringLiteral("RYBY"));
+    QTest::keyClick(edit, Qt::Key_Tab);
+    QVERIFY(row->hasFocus());
+    QCOMPARE(mvColorsAt(row, probes), QStringLiteral("?YBY")); // the mark on the first, nothing chosen yet
+    // The choice moves with the mark: the second cell is framed and marked, the first plain again.
+    QTest::keyClick(row, Qt::Key_Right);
+    QCOMPARE(mvColorsAt(row, probes), QStringLiteral("R?B?"));
+    edit->setFocus();
+    QCOMPARE(mvColorsAt(row, probes), QStringLiteral("RYB?"));
+}
+
+// The captions are selected by their role: large ones push the comment and colour fields right,
+// small ones let them line up under the name field again; the buttons are dressed by role and name.
+void tst_MvMarkerEditDialog::hostStyleSheetLinesUpTheFieldsAndDressesTheButtons()
+{
+    MvMarkerEditDialog dialog(sampleParam(), nullptr);
+    const MvMarkerEditPanel* panel = dialog.panel();
+    dialog.setStyleSheet(QStringLiteral("QLabel[mvMarkerEditRole=\"caption\"] { font-size: 40px; }"));
+    dialog.show();
+    QVERIFY(panel->commentEdit()->x() > panel->nameEdit()->x());
+    QVERIFY(panel->colorRow()->x() > panel->nameEdit()->x());
+
+    dialog.setStyleSheet(QStringLiteral("MvMarkerEditPanel QLabel[mvMarkerEditRole=\"caption\"] { font-size: 9px; }"
+                                        "QPushButton[mvMarkerEditRole=\"delete\"] { background: red; border: none; }"
+                                        "QPushButton#okButton { background: blue; border: none; }"));
+    QCOMPARE(panel->commentEdit()->x(), panel->nameEdit()->x());
+    QCOMPARE(panel->colorRow()->x(), panel->nameEdit()->x());
+    QCOMPARE(panel->nameLabel()->property("mvMarkerEditRole").toString(), QStringLiteral("caption"));
+    QCOMPARE(panel->timeValueLabel()->property("mvMarkerEditRole").toString(), QStringLiteral("value"));
+    QCOMPARE(panel->commentEdit()->property("mvMarkerEditRole").toString(), QStringLiteral("field"));
+    QCOMPARE(mvColorsAt(dialog.deleteButton(), { { 2, 2 } }) + mvColorsAt(dialog.okButton(), { { 2, 2 } }),
+        QStringLiteral("RB"));
+}
+
+void tst_MvMarkerEditDialog::languageChangeRetranslatesTheDialog()
+{
+    MvMarkerEditDialog dialog(sampleParam(), nullptr);
+    // Marks every text of the editor's classes as translated.
+    class MarkingTranslator : public QTranslator
+    {
+    public:
+        QString translate(const char* context, const char* source, const char*, int) const override
+        {
+            return QByteArray(context).startsWith("MvMarkerEdit") ? QStringLiteral("T:") + QLatin1String(source)
+                                                                  : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    QCoreApplication::installTranslator(&translator);
+    QTRY_COMPARE(dialog.title(), QStringLiteral("T:Marker Editor")); // the language change is posted
+    const MvMarkerEditPanel* panel = dialog.panel();
+    const QStringList texts { dialog.title(), dialog.okButton()->text(), dialog.deleteButton()->text(),
+        panel->nameLabel()->text(), panel->nameEdit()->accessibleName(), panel->timeValueLabel()->accessibleName(),
+        panel->commentEdit()->accessibleName(), panel->colorRow()->accessibleName(), panel->colorRow()->colorName(0) };
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(texts.join(QLatin1Char('/')),
+        QStringLiteral("T:Marker Editor/T:OK/T:DELETE/T:Name:/T:Name/T:Time/T:Comment/T:Marker Color/T:Color #ff0000"));
 }
 
 QTEST_MAIN(tst_MvMarkerEditDialog)

@@ -1,8 +1,8 @@
 #include "IMvShortcutEditManager.h"
-#include "MvRulerModel.h"
 #include "MvCustomEvent.h"
 #include "MvPureTimelineRulerWidget.h"
 #include "MvRulerGesture_p.h"
+#include "MvRulerModel.h"
 #include "MvScreen.h"
 #include "MvSkinStyle.h"
 
@@ -295,7 +295,10 @@ void tst_MvPureTimelineRulerWidget::paintedTicksAndLabels()
     QCOMPARE(image.pixel(7, kHeight - 5 - lift), ink);
     QCOMPARE(image.pixel(7, kHeight - 6 - lift), black);
     // Labels sit in the band above the ticks, centred on labelled majors, with gaps between them.
-    const int labelWidth = QFontMetrics(font).boundingRect(QStringLiteral("00:00:00:00")).width();
+    // As wide as the time code draws: eight digits and three colons at their advances.
+    const QFontMetricsF metrics(font, &image);
+    const int labelWidth
+        = qCeil(8 * metrics.horizontalAdvance(QLatin1Char('0')) + 3 * metrics.horizontalAdvance(QLatin1Char(':')));
     const int labelled = labelWidth < 37 ? 37 : 75; // every fifth or every tenth tick
     const auto inkInLabelBand = [&](int x0, int x1) {
         QImage blank(x1 - x0 + 1, 15, image.format());

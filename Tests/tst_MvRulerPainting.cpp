@@ -29,8 +29,21 @@ QImage blankImage(int width, int height, double dpr)
     return image;
 }
 
+// How wide the labels of a ruler in this font must be for time codes of `characters`
+// characters: the digits at the widest digit's advance, the three colons at theirs.
+int wholeLabelWidth(const QPainter& painter, int characters)
+{
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    double digit = 0.0;
+    for (const QChar c : QStringLiteral("0123456789"))
+        digit = std::max(digit, metrics.horizontalAdvance(c));
+    return qCeil((characters - 3) * digit + 3 * metrics.horizontalAdvance(QLatin1Char(':')));
+}
+
 // The ruler drawn as it always was: the ticks gathered in one path, written out straight from
-// the ruler's numbers rather than through the library's layout.
+// the ruler's numbers rather than through the library's layout. Each label is drawn whole: cut
+// only to its band of rows, never at its right edge, so that a rectangle too narrow for its
+// text shows as a difference.
 void paintReferenceRuler(QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler)
 {
     const int dy = MvScreen::isPixelRatio25_75() ? -2 : 0;
@@ -41,28 +54,46 @@ void paintReferenceRuler(QPainter& painter, const QRect& rect, const QBrush& bac
     const qint64 start = ruler->visibleStartFrame();
     const double spacing = ruler->tickSpacing();
     const qint64 step = ruler->framesPerTick();
-    qint64 frame = start;
-    double x = 0.0;
-    if (start % step != 0) {
-        frame = (qint64(int(start / step)) + 1) * step;
-        x = double(frame - start) * spacing / double(step);
-    }
-    const int labelW = QFontMetrics(painter.font()).boundingRect(QStringLiteral("00:00:00:00")).width();
-    const int labelEvery = (1 - int(labelW / (spacing * -5.0))) * 5;
     int num = 0;
     int den = 0;
     ruler->frameRate(&num, &den);
-    double lastLabelRight = -1.0;
+    QVector<QPair<QRectF, QString>> labels;
     QPainterPath path;
-    for (; x <= rect.width(); x += spacing, frame += step) {
-        const int tick = int(frame / step);
-        const QRectF label(x - labelW / 2, h + dy - 25, labelW, 15.0);
-        if (tick % 5 == 0 && tick % labelEvery == 0 && !(lastLabelRight >= 0 && label.left() - lastLabelRight < 5.0)) {
-            painter.drawText(
-                label, Qt::AlignLeft | Qt::AlignTop, MvTimelineRulerPresenter::formatTimecode(int(frame), num, den));
-            lastLabelRight = label.right();
+    const auto layOut = [&](int characters) {
+        labels.clear();
+        path = QPainterPath();
+        const int labelW = wholeLabelWidth(painter, characters);
+        const int labelEvery = (1 - int(labelW / (spacing * -5.0))) * 5;
+        qint64 frame = start;
+        double x = 0.0;
+        if (start % step != 0) {
+            frame = (qint64(int(start / step)) + 1) * step;
+            x = double(frame - start) * spacing / double(step);
         }
-        path.addRect(QRectF(int(x), (tick % 5 == 0 ? h - 10 : h - 5) + dy, 1.0 / MvScreen::devicePixelRatio(), h + dy));
+        double lastLabelRight = -1.0;
+        int longest = 0;
+        for (; x <= rect.width(); x += spacing, frame += step) {
+            const int tick = int(frame / step);
+            const QRectF label(x - labelW / 2, h + dy - 25, labelW, 15.0);
+            if (tick % 5 == 0 && tick % labelEvery == 0
+                && !(lastLabelRight >= 0 && label.left() - lastLabelRight < 5.0)) {
+                labels.append({ label, MvTimelineRulerPresenter::formatTimecode(int(frame), num, den) });
+                longest = std::max(longest, int(labels.constLast().second.size()));
+                lastLabelRight = label.right();
+            }
+            path.addRect(
+                QRectF(int(x), (tick % 5 == 0 ? h - 10 : h - 5) + dy, 1.0 / MvScreen::devicePixelRatio(), h + dy));
+        }
+        return longest;
+    };
+    // Past a hundred hours the time codes grow a digit, and every label with them.
+    for (int characters = 11, longest = layOut(characters); longest > characters; longest = layOut(characters))
+        characters = longest;
+    for (const QPair<QRectF, QString>& label : qAsConst(labels)) {
+        painter.save();
+        painter.setClipRect(QRectF(-1.0e5, label.first.top(), 2.0e5, label.first.height()), Qt::IntersectClip);
+        painter.drawText(label.first, Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, label.second);
+        painter.restore();
     }
     painter.fillPath(path, ink);
 }
@@ -84,8 +115,14 @@ struct PainterSetup
     double offset = 0.0;
     QRect clip; // none when null
     bool antialiased = false;
+    int fontPixels = 0; // the label font's pixel size; 0 keeps the default font
     void apply(QPainter* painter) const
     {
+        if (fontPixels > 0) {
+            QFont font = painter->font();
+            font.setPixelSize(fontPixels);
+            painter->setFont(font);
+        }
         painter->translate(offset, 0);
         if (!clip.isNull())
             painter->setClipRect(clip);
@@ -149,14 +186,25 @@ void tst_MvRulerPainting::fastPaintEqualsThePathFill_data()
     QTest::addColumn<int>("zoomSteps");
     QTest::addColumn<qint64>("current");
     QTest::addColumn<double>("offset"); // of the widget in its window, in logical pixels
+    QTest::addColumn<int>("fontPixels"); // 0: the default font
     for (double dpr : { 1.0, 1.25, 1.75, 2.0 }) {
         const QByteArray scale = QByteArray::number(dpr);
-        QTest::addRow("%s minute zoomed out", scale.constData()) << dpr << qint64(1800) << 0 << qint64(0) << 0.0;
-        QTest::addRow("%s frame by frame", scale.constData()) << dpr << qint64(1800) << -1000 << qint64(1333) << 0.0;
-        QTest::addRow("%s ten hours", scale.constData()) << dpr << qint64(1080000) << 0 << qint64(0) << 0.0;
-        QTest::addRow("%s ten hours mid", scale.constData()) << dpr << qint64(1080000) << -300 << qint64(512345) << 0.0;
-        QTest::addRow("%s shifted widget", scale.constData()) << dpr << qint64(1800) << -120 << qint64(901) << 0.4;
-        QTest::addRow("%s labels over both edges", scale.constData()) << dpr << qint64(1800) << 0 << qint64(0) << 40.4;
+        QTest::addRow("%s minute zoomed out", scale.constData()) << dpr << qint64(1800) << 0 << qint64(0) << 0.0 << 0;
+        QTest::addRow("%s frame by frame", scale.constData())
+            << dpr << qint64(1800) << -1000 << qint64(1333) << 0.0 << 0;
+        QTest::addRow("%s ten hours", scale.constData()) << dpr << qint64(1080000) << 0 << qint64(0) << 0.0 << 0;
+        QTest::addRow("%s ten hours mid", scale.constData())
+            << dpr << qint64(1080000) << -300 << qint64(512345) << 0.0 << 0;
+        QTest::addRow("%s shifted widget", scale.constData()) << dpr << qint64(1800) << -120 << qint64(901) << 0.4 << 0;
+        QTest::addRow("%s labels over both edges", scale.constData())
+            << dpr << qint64(1800) << 0 << qint64(0) << 40.4 << 0;
+        // Fonts whose digits draw wider than the ink box of "00:00:00:00" measures: a label as
+        // wide as that box loses the end of its last digit.
+        QTest::addRow("%s 10 px labels", scale.constData()) << dpr << qint64(1800) << -120 << qint64(901) << 0.0 << 10;
+        QTest::addRow("%s 13 px labels", scale.constData()) << dpr << qint64(1800) << -120 << qint64(901) << 0.3 << 13;
+        // 99:59:59:29 and 100:00:00:00 at 29.97 fps side by side: all labels take the longer width.
+        QTest::addRow("%s across a hundred hours", scale.constData())
+            << dpr << qint64(11000000) << -300 << qint64(10789200) << 0.0 << 11;
     }
 }
 
@@ -167,6 +215,7 @@ void tst_MvRulerPainting::fastPaintEqualsThePathFill()
     QFETCH(int, zoomSteps);
     QFETCH(qint64, current);
     QFETCH(double, offset);
+    QFETCH(int, fontPixels);
     MvScreen::setDevicePixelRatio(dpr);
     MvRulerModel ruler;
     setUpRuler(&ruler, total, zoomSteps, current);
@@ -175,6 +224,7 @@ void tst_MvRulerPainting::fastPaintEqualsThePathFill()
     // and copied from tiles from the second time on.
     PainterSetup setup;
     setup.offset = offset;
+    setup.fontPixels = fontPixels;
     const QImage reference = referenceRuler(dpr, setup, Qt::darkGray, &ruler);
     MvRulerPaintCache cache;
     for (int paint = 0; paint < 3; ++paint)

@@ -32,7 +32,11 @@ public:
     QPushButton* okButton() const { return m_okButton; }
     QPushButton* deleteButton() const { return m_deleteButton; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslateUi();
     void finish(int result);
 
     Q_DISABLE_COPY(MvMarkerEditDialog)

@@ -24,34 +24,53 @@ int bottomOf(const QWidget* widget)
     return widget->y() + widget->height();
 }
 
-MvLabel* makeLabel(QWidget* parent, const QString& objectName, Qt::Alignment alignment)
+// What a host style sheet can select the panel's parts by, beside their object names:
+// QLabel[mvMarkerEditRole="caption"], [mvMarkerEditRole="field"] and [mvMarkerEditRole="value"].
+const char* const kRoleProperty = "mvMarkerEditRole";
+
+MvLabel* makeLabel(QWidget* parent, const QString& objectName, Qt::Alignment alignment, const char* role)
 {
     auto* label = new MvLabel(parent);
     label->setObjectName(objectName);
     label->setAlignment(alignment);
+    label->setProperty(kRoleProperty, QLatin1String(role));
     return label;
+}
+
+void markField(QWidget* field, const QString& objectName)
+{
+    field->setObjectName(objectName);
+    field->setProperty(kRoleProperty, QStringLiteral("field"));
 }
 }
 
 MvMarkerEditPanel::MvMarkerEditPanel(const MvMarkerParam& param, QWidget* parent)
     : MvWidget(parent)
 {
-    m_nameLabel = makeLabel(this, QStringLiteral("nameLabel"), Qt::AlignRight | Qt::AlignVCenter);
+    const Qt::Alignment captionAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    m_nameLabel = makeLabel(this, QStringLiteral("nameLabel"), captionAlignment, "caption");
     m_nameEdit = MvTextEdit::creatTextEdit(this, param.name, kMaxTextLength, true, true);
-    m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
+    markField(m_nameEdit, QStringLiteral("nameEdit"));
+    m_nameLabel->setBuddy(m_nameEdit);
 
-    m_timeLabel = makeLabel(this, QStringLiteral("timeLabel"), Qt::AlignRight | Qt::AlignVCenter);
-    m_timeValue = makeLabel(this, QStringLiteral("timeValue"), Qt::AlignLeft | Qt::AlignVCenter);
+    m_timeLabel = makeLabel(this, QStringLiteral("timeLabel"), captionAlignment, "caption");
+    m_timeValue = makeLabel(this, QStringLiteral("timeValue"), Qt::AlignLeft | Qt::AlignVCenter, "value");
     m_timeValue->setText(param.time);
 
-    m_commentLabel = makeLabel(this, QStringLiteral("commentLabel"), Qt::AlignRight | Qt::AlignVCenter);
+    m_commentLabel = makeLabel(this, QStringLiteral("commentLabel"), captionAlignment, "caption");
     m_commentEdit = MvTextEdit::creatTextEdit(this, param.comment, kMaxTextLength, true, false);
-    m_commentEdit->setObjectName(QStringLiteral("commentEdit"));
+    markField(m_commentEdit, QStringLiteral("commentEdit"));
+    m_commentLabel->setBuddy(m_commentEdit);
 
-    m_colorLabel = makeLabel(this, QStringLiteral("colorLabel"), Qt::AlignRight | Qt::AlignVCenter);
+    m_colorLabel = makeLabel(this, QStringLiteral("colorLabel"), captionAlignment, "caption");
     m_colorRow = new MvMarkerEditColor(param.colors, this);
-    m_colorRow->setObjectName(QStringLiteral("colorRow"));
+    markField(m_colorRow, QStringLiteral("colorRow"));
     m_colorRow->setSelectedIndex(param.colorIndex);
+    m_colorLabel->setBuddy(m_colorRow);
+
+    // The captions are measured in the comment caption's font: when it changes (a host style
+    // sheet, setFont), the rows move as they do for a longer caption.
+    m_commentLabel->installEventFilter(this);
 
     RetranslateUi();
     layoutPanel();
@@ -67,6 +86,11 @@ void MvMarkerEditPanel::RetranslateUi()
     m_commentLabel->setText(tr("Comment") + colon);
     m_colorLabel->setText(tr("Marker Color") + colon);
     m_commentEdit->setPlaceholderText(tr("Add your comments here"));
+    // Assistive tools name the fields without the captions' colons.
+    m_nameEdit->setAccessibleName(tr("Name"));
+    m_timeValue->setAccessibleName(tr("Time"));
+    m_commentEdit->setAccessibleName(tr("Comment"));
+    m_colorRow->setAccessibleName(tr("Marker Color"));
 }
 
 void MvMarkerEditPanel::layoutPanel()
@@ -98,6 +122,13 @@ void MvMarkerEditPanel::resizeEvent(QResizeEvent* event)
 {
     layoutPanel();
     MvWidget::resizeEvent(event);
+}
+
+bool MvMarkerEditPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FontChange && watched == m_commentLabel)
+        layoutPanel();
+    return MvWidget::eventFilter(watched, event);
 }
 
 void MvMarkerEditPanel::changeEvent(QEvent* event)

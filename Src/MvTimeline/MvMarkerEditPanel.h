@@ -8,7 +8,10 @@ class MvLabel;
 class MvTextEdit;
 class MvMarkerEditColor;
 
-// The body of the marker edit dialog: name, time (read only), comment and colour rows.
+// The body of the marker edit dialog: name, time (read only), comment and colour rows. Its parts
+// carry object names (nameLabel, nameEdit, timeLabel, timeValue, commentLabel, commentEdit,
+// colorLabel, colorRow) and the property mvMarkerEditRole ("caption", "field" or "value") for a
+// host's style sheet; the rows are laid out again when the captions' font changes.
 class MVTIMELINE_TEST_EXPORT MvMarkerEditPanel : public MvWidget
 {
     Q_OBJECT
@@ -33,6 +36,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void layoutPanel();

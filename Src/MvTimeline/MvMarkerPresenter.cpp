@@ -1,5 +1,10 @@
 #include "MvMarkerPresenter.h"
 
+#include "IMvMarker.h"
+#include "IMvTimeline.h"
+#include "MvTimelineModelAccess_p.h"
+#include "MvTimelinePresenter.h"
+
 MvMarkerPresenter::MvMarkerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
     : MvPresenter(parent)
     , m_timelinePresenter(timelinePresenter)
@@ -37,6 +42,36 @@ QImage MvMarkerPresenter::pressMarkerImage(int colorIndex)
 {
     const MarkerImageEntry* entry = findEntry(colorIndex);
     return entry ? entry->pressed : QImage();
+}
+
+namespace {
+// The timeline's own marker at a list index, or null (no timeline, no marker list, out of range).
+const IMvMarker* timelineMarker(const MvTimelinePresenter* timelinePresenter, int index)
+{
+    const IMvTimeline* timeline = timelinePresenter ? timelinePresenter->timeline() : nullptr;
+    const IMvMarkerList* list = timeline ? timeline->timelineMarkers() : nullptr;
+    return list && index >= 0 ? list->markers().value(index) : nullptr;
+}
+}
+
+QString MvMarkerPresenter::markerName(int index)
+{
+    const IMvMarker* marker = timelineMarker(m_timelinePresenter, index);
+    return marker ? marker->name() : QString();
+}
+
+qint64 MvMarkerPresenter::markerFrame(int index)
+{
+    const IMvMarker* marker = timelineMarker(m_timelinePresenter, index);
+    return marker && marker->ownerList() ? marker->ownerList()->mapToTimeline(marker->frame()) : -1;
+}
+
+QString MvMarkerPresenter::markerTimecode(int index)
+{
+    const qint64 frame = markerFrame(index);
+    if (frame < 0)
+        return QString();
+    return MvModelAccess::timeCode(m_timelinePresenter ? m_timelinePresenter->timeline() : nullptr, frame);
 }
 
 void MvMarkerPresenter::addMarkerImage(int colorIndex, const QImage& normal, const QImage& hover, const QImage& pressed)

@@ -30,6 +30,14 @@ public:
     virtual QImage normalMarkerImage(int colorIndex);
     virtual QImage horverMarkerImage(int colorIndex);
     virtual QImage pressMarkerImage(int colorIndex);
+    // What the strip tells about the marker at `index` of markerList(): its name and its frame on
+    // the timeline (-1 when unknown). By default the list is taken to hold the timeline's own
+    // markers in the model's order; a host whose list differs answers from its model.
+    virtual QString markerName(int index);
+    virtual qint64 markerFrame(int index);
+
+    // The marker's time as the ruler labels it; empty when its frame is unknown.
+    QString markerTimecode(int index);
 
     // Appends an entry to the image table (lookups take the first entry of a colour index).
     void addMarkerImage(int colorIndex, const QImage& normal, const QImage& hover, const QImage& pressed);

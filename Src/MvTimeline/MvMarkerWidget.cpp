@@ -1,7 +1,10 @@
 #include "MvMarkerWidget.h"
 
 #include "MvMarkerStripPainter_p.h"
+#include "MvTimelineAccessible_p.h"
+#include "MvToolTipHelper.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 
 #include <limits>
@@ -9,12 +12,49 @@
 namespace {
 constexpr int kMarkerWidth = 11;
 constexpr int kMarkerHeight = 14;
+constexpr int kToolTipSeconds = 3;
+}
+
+namespace {
+
+// Tool tips naming the marker under the pointer. A filter rather than an event() override, so that
+// the strip's own event handling stays that of the widget it derives from.
+class MvMarkerToolTips : public QObject
+{
+public:
+    explicit MvMarkerToolTips(MvMarkerWidget* strip)
+        : QObject(strip)
+        , m_strip(strip)
+    {
+        strip->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched != m_strip || event->type() != QEvent::ToolTip)
+            return false;
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = m_strip->markerDescription(m_strip->markerAt(help->pos()));
+        if (text.isEmpty()) {
+            MvToolTipHelper::hideToolTip();
+            event->ignore();
+            return true;
+        }
+        MvToolTipHelper::showToolTip(help->globalPos(), text, true, kToolTipSeconds);
+        return true;
+    }
+
+private:
+    MvMarkerWidget* m_strip;
+};
+
 }
 
 MvMarkerWidget::MvMarkerWidget(MvMarkerPresenter* presenter, QWidget* parent)
     : MvWidget(parent)
     , m_stripPainter(new MvMarkerStripPainter)
 {
+    new MvMarkerToolTips(this);
     setPresenter(presenter);
 }
 
@@ -57,12 +97,32 @@ QRect MvMarkerWidget::markerRect(int x)
     return QRect(left, -1, kMarkerWidth, kMarkerHeight);
 }
 
+int MvMarkerWidget::markerAt(const QPoint& pos) const
+{
+    for (int i = m_markers.size() - 1; i >= 0; --i) {
+        if (markerRect(m_markers.at(i).first).contains(pos))
+            return i;
+    }
+    return -1;
+}
+
+QString MvMarkerWidget::markerDescription(int index) const
+{
+    if (!m_presenter || index < 0 || index >= m_markers.size())
+        return QString();
+    const QString name = m_presenter->markerName(index);
+    const QString time = m_presenter->markerTimecode(index);
+    const QString title = name.isEmpty() ? tr("Unnamed marker") : name;
+    return time.isEmpty() ? title : title + QLatin1Char('\n') + time;
+}
+
 void MvMarkerWidget::slotMarkerCountChanged()
 {
     if (!m_presenter)
         return;
     m_markers = m_presenter->markerList();
     update();
+    MvAccessibleAnnouncer::valueChanged(this);
 }
 
 void MvMarkerWidget::slotClearTimelineSelectedMarker()

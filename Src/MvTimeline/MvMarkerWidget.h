@@ -12,8 +12,8 @@
 class MvMarkerStripPainter;
 
 // The marker strip: paints every marker of its presenter's list, one marker hovered and one
-// pressed. The hover, press and floating state is set by a host subclass from its mouse
-// handling; the library only initialises it and clears the pressed look on request.
+// pressed, and names the marker under the pointer in a tool tip. The hover, press and floating state is set by a host
+// subclass from its mouse handling; the library only initialises it and clears the pressed look on request.
 //
 // The markers are drawn once into a layer that later paints copy (only the part being painted),
 // so that a strip of thousands of markers repaints at about the cost of filling it. The layer is
@@ -35,6 +35,12 @@ public:
 
     // Where a marker at x is drawn: 11 x 14, centred on x, one pixel above the top edge.
     static QRect markerRect(int x);
+    // The index of the marker drawn at pos, the topmost where flags overlap (later markers are
+    // drawn over earlier ones); -1 over no marker.
+    int markerAt(const QPoint& pos) const;
+    // What the strip tells about a marker: its name (or that it has none) and, when the presenter
+    // knows its frame, its time code on a second line.
+    QString markerDescription(int index) const;
 
 public Q_SLOTS:
     void slotMarkerCountChanged();

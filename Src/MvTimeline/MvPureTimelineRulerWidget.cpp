@@ -4,6 +4,7 @@
 #include "MvEventFilterManager.h"
 #include "MvPureTimelineRulerWidget_p.h"
 #include "MvRulerPainter_p.h"
+#include "MvTimelineAccessible_p.h"
 
 #include <QPainter>
 
@@ -43,6 +44,7 @@ void MvPureTimelineRulerWidgetPrivate::onRulerEvent(int kind)
     case IMvTimelineRuler::CurrentFrameChanged:
         // The handle is drawn by whoever shows the current frame; the ruler itself is unchanged.
         Q_EMIT q->sigCurrentFrameChanged();
+        MvAccessibleAnnouncer::valueChanged(q);
         break;
     case IMvTimelineRuler::TotalFramesChanged:
         q->update();

@@ -20,32 +20,54 @@ namespace {
 // Device pixels a label drawn as text may reach beyond its rectangle.
 constexpr int kLabelOverhang = 2;
 
-int labelWidth(const QPainter& painter, MvRulerPaintCache* cache)
+// The advances that decide how wide a time code draws, measured again only for a new font or
+// resolution.
+void measureLabelFont(const QPainter& painter, MvRulerPaintCache* cache)
 {
     const QFont font = painter.font();
     const int dpi = painter.device() ? painter.device()->logicalDpiY() : 0;
-    if (cache->labelWidth < 0 || cache->labelDpi != dpi || cache->labelFont != font) {
-        cache->labelFont = font;
-        cache->labelDpi = dpi;
-        cache->labelWidth = QFontMetrics(font).boundingRect(QStringLiteral("00:00:00:00")).width();
-    }
-    return cache->labelWidth;
+    if (cache->digitAdvance >= 0.0 && cache->labelDpi == dpi && cache->labelFont == font)
+        return;
+    cache->labelFont = font;
+    cache->labelDpi = dpi;
+    const QFontMetricsF metrics = painter.device() ? QFontMetricsF(font, painter.device()) : QFontMetricsF(font);
+    double widest = 0.0;
+    for (char digit = '0'; digit <= '9'; ++digit)
+        widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(digit)));
+    cache->digitAdvance = widest;
+    cache->colonAdvance = metrics.horizontalAdvance(QLatin1Char(':'));
 }
 
 // Lays out the ticks and labels and formats the labels' time codes, unless the view is the one
 // the cache was laid out for.
 void layOut(const MvRulerLayoutInput& input, int numerator, int denominator, MvRulerPaintCache* cache)
 {
-    if (cache->laidOut && input == cache->input && numerator == cache->numerator && denominator == cache->denominator)
+    if (cache->laidOut && input == cache->input && numerator == cache->numerator && denominator == cache->denominator
+        && cache->laidOutDigitAdvance == cache->digitAdvance && cache->laidOutColonAdvance == cache->colonAdvance)
         return;
-    MvRulerTickLayout::layout(input, &cache->layout);
-    const QVector<MvRulerLabel>& labels = cache->layout.labels;
-    cache->labelTexts.resize(labels.size());
-    for (int i = 0; i < labels.size(); ++i)
-        cache->labelTexts[i] = MvTimeCode::format(labels.at(i).frame, numerator, denominator);
+    // Labels are as wide as "hh:mm:ss:ff" unless a hundred hours or more need a longer time code;
+    // then they are laid out again as wide as the longest one.
+    MvRulerLayoutInput sized = input;
+    int characters = MvRulerPainter::kTimeCodeCharacters;
+    for (;;) {
+        sized.labelWidth = MvRulerPainter::labelWidth(cache->digitAdvance, cache->colonAdvance, characters);
+        MvRulerTickLayout::layout(sized, &cache->layout);
+        const QVector<MvRulerLabel>& labels = cache->layout.labels;
+        cache->labelTexts.resize(labels.size());
+        int longest = 0;
+        for (int i = 0; i < labels.size(); ++i) {
+            cache->labelTexts[i] = MvTimeCode::format(labels.at(i).frame, numerator, denominator);
+            longest = std::max(longest, int(cache->labelTexts.at(i).size()));
+        }
+        if (longest <= characters)
+            break;
+        characters = longest;
+    }
     cache->input = input;
     cache->numerator = numerator;
     cache->denominator = denominator;
+    cache->laidOutDigitAdvance = cache->digitAdvance;
+    cache->laidOutColonAdvance = cache->colonAdvance;
     cache->laidOut = true;
     cache->ticksPlaced = false;
 }
@@ -137,6 +159,13 @@ void fillTicksOneByOne(
 
 namespace MvRulerPainter {
 
+int labelWidth(double digitAdvance, double colonAdvance, int characters)
+{
+    // The three colons of "hh:mm:ss:ff"; every other character is a digit.
+    const int digits = std::max(0, characters - 3);
+    return int(std::ceil(digits * digitAdvance + 3 * colonAdvance));
+}
+
 void paint(
     QPainter& painter, const QRect& rect, const QBrush& background, IMvTimelineRuler* ruler, MvRulerPaintCache& cache)
 {
@@ -159,7 +188,9 @@ void paint(
     ruler->visualRange(&input.start, &end);
     input.spacing = ruler->tickSpacing();
     input.step = ruler->framesPerTick();
-    input.labelWidth = labelWidth(painter, &cache);
+    measureLabelFont(painter, &cache);
+    // The width of the shortest time codes; longer ones widen the labels in layOut.
+    input.labelWidth = MvRulerPainter::labelWidth(cache.digitAdvance, cache.colonAdvance, kTimeCodeCharacters);
     int numerator = 0;
     int denominator = 0;
     ruler->frameRate(&numerator, &denominator);

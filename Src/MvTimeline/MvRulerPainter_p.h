@@ -23,7 +23,7 @@ class QPainter;
 class QRect;
 
 // What a ruler keeps from one paint to the next: the layout of the last view with its labels'
-// texts, the labels already drawn, the tick rectangles' buffer, and the label width of the last
+// texts, the labels already drawn, the tick rectangles' buffer, and the advances of the last
 // font.
 struct MvRulerPaintCache
 {
@@ -41,10 +41,21 @@ struct MvRulerPaintCache
     QVector<QRect> shownTicks; // the ticks of tickRects that meet the painted area
     QFont labelFont;
     int labelDpi = 0;
-    int labelWidth = -1; // of "00:00:00:00" in labelFont, -1 until measured
+    double digitAdvance = -1.0; // of the widest digit in labelFont, -1 until measured
+    double colonAdvance = 0.0;
+    double laidOutDigitAdvance = -1.0; // the advances `layout` was made with
+    double laidOutColonAdvance = 0.0;
 };
 
 namespace MvRulerPainter {
+// "hh:mm:ss:ff": labels are at least this many characters wide.
+constexpr int kTimeCodeCharacters = 11;
+
+// How wide a label rectangle is for time codes of `characters` characters: every digit as wide as
+// the widest one, rounded up to the pixel. The text drawn in it never reaches past its right edge,
+// where it would be clipped.
+MVTIMELINE_TEST_EXPORT int labelWidth(double digitAdvance, double colonAdvance, int characters);
+
 // The whole ruler: background, labels and ticks of `ruler` over `rect`, and nothing without a
 // ruler. Only what meets the painted area (the exposed region, the painter's clip) is drawn.
 MVTIMELINE_TEST_EXPORT void paint(

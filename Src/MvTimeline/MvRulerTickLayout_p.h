@@ -31,7 +31,7 @@ struct MvRulerLayoutInput
     qint64 start = 0; // first visible frame
     double spacing = 0; // pixels between ticks
     qint64 step = 0; // frames between ticks
-    int labelWidth = 0; // width of "00:00:00:00" in the ruler's font
+    int labelWidth = 0; // wide enough for the longest time code in the ruler's font
 
     bool operator==(const MvRulerLayoutInput& other) const
     {

@@ -5,7 +5,11 @@
 #include "IMvSelection.h"
 #include "IMvTimeline.h"
 #include "IMvTimelinePlayhead.h"
+#include "IMvTimelineRuler.h"
 #include "MvRange.h"
+#include "MvTimeCode_p.h"
+
+#include <algorithm>
 
 namespace MvModelAccess {
 
@@ -47,6 +51,31 @@ bool setPlayheadFrame(const IMvTimeline* timeline, qint64 frame)
         return false;
     head->setCurrentFrame(frame);
     return true;
+}
+
+QString timeCode(const IMvTimelineRuler* ruler, qint64 frame)
+{
+    constexpr int kNominalRate = 30;
+    int numerator = 0;
+    int denominator = 0;
+    if (ruler)
+        ruler->frameRate(&numerator, &denominator);
+    if (numerator <= 0 || denominator <= 0) {
+        numerator = kNominalRate;
+        denominator = 1;
+    }
+    return MvTimeCode::format(std::max<qint64>(0, frame), numerator, denominator);
+}
+
+QString timeCode(const IMvTimeline* timeline, qint64 frame)
+{
+    return timeCode(timeline ? timeline->ruler() : nullptr, frame);
+}
+
+qint64 totalFrames(const IMvTimeline* timeline)
+{
+    const IMvTimelineRuler* ruler = timeline ? timeline->ruler() : nullptr;
+    return ruler ? ruler->totalFrames() : 0;
 }
 
 QList<IMvClip*> selectedClips(const IMvTimeline* timeline)

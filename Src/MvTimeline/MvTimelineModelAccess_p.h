@@ -12,6 +12,8 @@ class IMvMarkerList;
 class IMvSelection;
 class IMvTimeline;
 class IMvTimelinePlayhead;
+class IMvTimelineRuler;
+class QString;
 class IMvUndoRedoService;
 
 // What every presenter reads of its timeline, in one place. A null timeline (or a model without
@@ -27,6 +29,13 @@ MVTIMELINE_TEST_EXPORT IMvKeyFrameSelector* keyFrameSelector(const IMvTimeline* 
 // The frame under the playhead: the position of every command at the playhead.
 MVTIMELINE_TEST_EXPORT qint64 playheadFrame(const IMvTimeline* timeline);
 MVTIMELINE_TEST_EXPORT bool setPlayheadFrame(const IMvTimeline* timeline, qint64 frame);
+
+// A frame as the ruler labels it: the one time-code formatter at the ruler's rate, 30 frames a
+// second without a ruler or a rate; frames before the start read as the start.
+MVTIMELINE_TEST_EXPORT QString timeCode(const IMvTimelineRuler* ruler, qint64 frame);
+MVTIMELINE_TEST_EXPORT QString timeCode(const IMvTimeline* timeline, qint64 frame);
+// The timeline's length in frames as its ruler holds it; 0 without a ruler.
+MVTIMELINE_TEST_EXPORT qint64 totalFrames(const IMvTimeline* timeline);
 
 MVTIMELINE_TEST_EXPORT QList<IMvClip*> selectedClips(const IMvTimeline* timeline);
 MVTIMELINE_TEST_EXPORT QList<IMvAbstractClip*> selectedItems(const IMvTimeline* timeline);

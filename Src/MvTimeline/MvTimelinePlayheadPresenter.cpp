@@ -2,6 +2,7 @@
 #include "MvTimelinePlayheadPresenter_p.h"
 
 #include "IMvTimeline.h"
+#include "MvTimelineModelAccess_p.h"
 #include "MvTimelinePresenter.h"
 
 #include <algorithm>
@@ -285,6 +286,24 @@ void MvTimelinePlayheadPresenter::splitClips()
     Q_D(MvTimelinePlayheadPresenter);
     if (d->timelinePresenter)
         d->timelinePresenter->splitClips(-1, true, false);
+}
+
+qint64 MvTimelinePlayheadPresenter::currentFrame()
+{
+    Q_D(MvTimelinePlayheadPresenter);
+    return MvModelAccess::playheadFrame(d->timelinePresenter ? d->timelinePresenter->timeline() : nullptr);
+}
+
+QString MvTimelinePlayheadPresenter::currentTimecode()
+{
+    Q_D(MvTimelinePlayheadPresenter);
+    return MvModelAccess::timeCode(d->timelinePresenter ? d->timelinePresenter->timeline() : nullptr, currentFrame());
+}
+
+void MvTimelinePlayheadPresenter::setCurrentFrame(qint64 frame)
+{
+    Q_D(MvTimelinePlayheadPresenter);
+    MvModelAccess::setPlayheadFrame(d->timelinePresenter ? d->timelinePresenter->timeline() : nullptr, frame);
 }
 
 MvPlayheadData* MvTimelinePlayheadPresenter::playheadData() const

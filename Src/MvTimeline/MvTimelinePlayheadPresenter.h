@@ -87,6 +87,12 @@ public:
     // Splits the clips under the playhead, selecting the parts.
     void splitClips();
 
+    // The frame under the playhead and its time code at the ruler's rate.
+    qint64 currentFrame();
+    QString currentTimecode();
+    // Moves the playhead to a frame; the model keeps it within the timeline.
+    void setCurrentFrame(qint64 frame);
+
     MvPlayheadData* playheadData() const;
     MvTimelinePresenter* timelinePresenter() const;
 

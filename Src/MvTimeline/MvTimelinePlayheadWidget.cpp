@@ -2,6 +2,7 @@
 
 #include "IMvShortcutEditManager.h"
 #include "MvMessage.h"
+#include "MvTimelineAccessible_p.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvToolTipHelper.h"
 #include "MvVBLModelGlobal.h"
@@ -123,6 +124,8 @@ QRegion MvTimelinePlayheadWidget::playheadArea()
 void MvTimelinePlayheadWidget::slotUpdateUI()
 {
     repaintPlayheadArea();
+    // Told only when the frame moved: zooms and scrolls come this way too.
+    MvAccessibleAnnouncer::valueChanged(this);
 }
 
 void MvTimelinePlayheadWidget::repaintPlayheadArea()
@@ -293,11 +296,15 @@ bool MvTimelinePlayheadWidget::toolTipEvent(const QHelpEvent* event)
 {
     if (captureItem(mapFromGlobal(event->globalPos())) != SplitButton)
         return false;
+    MvToolTipHelper::showToolTip(event->globalPos(), splitButtonToolTip(), true, kToolTipSeconds);
+    return true;
+}
+
+QString MvTimelinePlayheadWidget::splitButtonToolTip() const
+{
     const QString shortcut = IMvShortcutEditManager::GetInstance()->shortcutText(MvCommandId::SplitClips);
     const QString suffix = shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(shortcut);
-    const QString text = QStringLiteral("%1%3\n%2").arg(tr("Click to split"), tr("Drag to Move playhead"), suffix);
-    MvToolTipHelper::showToolTip(event->globalPos(), text, true, kToolTipSeconds);
-    return true;
+    return QStringLiteral("%1%3\n%2").arg(tr("Click to split"), tr("Drag to Move playhead"), suffix);
 }
 
 QPoint MvTimelinePlayheadWidget::transformMousePos(QMouseEvent* event) const

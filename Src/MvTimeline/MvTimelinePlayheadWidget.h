@@ -49,6 +49,9 @@ public:
     // else under the overlay repaints while the playhead moves. drawPlayhead and drawSplitButton
     // overrides must stay inside it.
     QRegion playheadArea();
+    // What the split button's tool tip says: click to split (with the split command's shortcut
+    // when the host has one), drag to move the playhead.
+    QString splitButtonToolTip() const;
 
 public Q_SLOTS:
     void slotUpdateUI();

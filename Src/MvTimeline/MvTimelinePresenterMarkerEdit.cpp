@@ -9,36 +9,14 @@
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
 #include "IMvUndoRedoService.h"
+#include "MvCommandScope_p.h"
 #include "MvMarkerEditDialog.h"
 #include "MvMarkerPresenter.h"
-#include "MvCommandScope_p.h"
-#include "MvTimeCode_p.h"
 #include "MvTimelineLog_p.h"
 #include "MvTimelineModelAccess_p.h"
 #include "MvUtility.h"
 
-#include <algorithm>
-
 MV_LOG_FILE("Src/MvTimeline/MvTimelinePresenter");
-
-namespace {
-constexpr int kNominalRateWithoutRuler = 30;
-
-// The marker's time as the ruler labels that frame: the same formatter at the ruler's rate (30
-// frames a second without a ruler or a rate).
-QString formatTimeCode(qint64 frame, const IMvTimelineRuler* ruler)
-{
-    int numerator = 0;
-    int denominator = 0;
-    if (ruler)
-        ruler->frameRate(&numerator, &denominator);
-    if (numerator <= 0 || denominator <= 0) {
-        numerator = kNominalRateWithoutRuler;
-        denominator = 1;
-    }
-    return MvTimeCode::format(std::max<qint64>(0, frame), numerator, denominator);
-}
-}
 
 void MvTimelinePresenter::editMarker()
 {
@@ -70,7 +48,7 @@ void MvTimelinePresenterPrivate::editMarker()
     param.colorIndex = MvMarkerPresenter::markerPaletteIndex(marker->color());
     param.name = marker->name();
     param.comment = marker->comment();
-    param.time = formatTimeCode(list->mapToTimeline(marker->frame()), timeline->ruler());
+    param.time = MvModelAccess::timeCode(timeline->ruler(), list->mapToTimeline(marker->frame()));
 
     MvMarkerEditDialog dialog(param, MvUtility::gGetMainWindow());
     const int result = dialog.exec();

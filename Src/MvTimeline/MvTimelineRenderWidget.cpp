@@ -2,10 +2,52 @@
 
 #include "IMvTimeline.h"
 #include "MvScreen.h"
+#include "MvTimelineAccessible_p.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRenderWidget_p.h"
 
 #include <QPainter>
+
+#include <algorithm>
+
+namespace {
+// Frames covered by finished stretches alone, and by any stretch: a sweep over the stretches'
+// ends in order. A stretch holds its first and its last frame, as the render service counts them;
+// one whose end is before its start holds none.
+QPair<qint64, qint64> coveredFrames(const QList<MvRenderSegment>& segments)
+{
+    struct Edge
+    {
+        qint64 frame;
+        int finished; // +1 where a finished stretch starts, -1 where it ends
+        int unfinished;
+    };
+    QVector<Edge> edges;
+    edges.reserve(segments.size() * 2);
+    for (const MvRenderSegment& segment : segments) {
+        if (segment.end < segment.start)
+            continue;
+        const bool unfinished = quint32(segment.unfinished) != 0;
+        edges.append({ segment.start, unfinished ? 0 : 1, unfinished ? 1 : 0 });
+        edges.append({ segment.end + 1, unfinished ? 0 : -1, unfinished ? -1 : 0 });
+    }
+    std::sort(edges.begin(), edges.end(), [](const Edge& a, const Edge& b) { return a.frame < b.frame; });
+    qint64 rendered = 0;
+    qint64 listed = 0;
+    int finished = 0;
+    int unfinished = 0;
+    for (int i = 0; i < edges.size(); ++i) {
+        finished += edges.at(i).finished;
+        unfinished += edges.at(i).unfinished;
+        const qint64 length = i + 1 < edges.size() ? edges.at(i + 1).frame - edges.at(i).frame : 0;
+        if (finished > 0 || unfinished > 0)
+            listed += length;
+        if (finished > 0 && unfinished == 0)
+            rendered += length;
+    }
+    return { rendered, listed };
+}
+}
 
 MvTimelineRenderWidgetPrivate::MvTimelineRenderWidgetPrivate(MvTimelineRenderWidget* q, MvTimelinePresenter* presenter)
     : q_ptr(q)
@@ -33,6 +75,17 @@ MvTimelineRenderWidgetPrivate::~MvTimelineRenderWidgetPrivate()
 void MvTimelineRenderWidgetPrivate::onSegmentsChanged()
 {
     rebuild();
+    MvAccessibleAnnouncer::valueChanged(q_func());
+}
+
+double MvTimelineRenderWidgetPrivate::renderedShare() const
+{
+    if (!renderService)
+        return 0.0;
+    QList<MvRenderSegment> current;
+    renderService->segments(current);
+    const QPair<qint64, qint64> frames = coveredFrames(current);
+    return frames.second > 0 ? double(frames.first) / double(frames.second) : 0.0;
 }
 
 void MvTimelineRenderWidgetPrivate::onRulerEvent(int kind)
@@ -113,6 +166,12 @@ void MvTimelineRenderWidget::setUnFinishedColor(const QColor& color)
 {
     Q_D(MvTimelineRenderWidget);
     d->unFinishedColor = color;
+}
+
+double MvTimelineRenderWidget::renderedShare() const
+{
+    Q_D(const MvTimelineRenderWidget);
+    return d->renderedShare();
 }
 
 void MvTimelineRenderWidget::paintEvent(QPaintEvent* event)

@@ -27,6 +27,10 @@ public:
     QColor unFinishedColor() const;
     void setUnFinishedColor(const QColor& color);
 
+    // How much of what the render service lists is rendered, from 0 to 1: the frames of finished
+    // stretches that no unfinished stretch covers, over the frames of all stretches (0 with none).
+    double renderedShare() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

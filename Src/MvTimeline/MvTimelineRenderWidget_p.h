@@ -22,6 +22,7 @@ public:
 
     void rebuild();
     void paint();
+    double renderedShare() const;
 
     MvTimelineRenderWidget* q_ptr;
     MvTimelinePresenter* timelinePresenter;

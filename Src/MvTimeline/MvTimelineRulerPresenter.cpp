@@ -4,6 +4,7 @@
 #include "MvRulerGesture_p.h"
 #include "MvRulerPainter_p.h"
 #include "MvTimeCode_p.h"
+#include "MvTimelineModelAccess_p.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRulerPresenter_p.h"
 
@@ -53,8 +54,11 @@ void MvTimelineRulerPresenterPrivate::onRulerEvent(int kind)
     case IMvTimelineRuler::MinVisibleRangeChanged:
         Q_EMIT q->minVisualChanged();
         break;
+    case IMvTimelineRuler::CurrentFrameChanged:
+        // The playhead's presenter draws the move; the ruler's view only tells it (assistive tools).
+        Q_EMIT q->currentFrameChanged();
+        break;
     default:
-        // The current frame is the playhead's business; its own presenter follows it.
         break;
     }
 }
@@ -153,6 +157,17 @@ void MvTimelineRulerPresenterPrivate::paint(QWidget* widget)
         return;
     QPainter painter(widget);
     MvRulerPainter::paint(painter, widget->rect(), widget->palette().brush(QPalette::Window), ruler, paintCache);
+}
+
+qint64 MvTimelineRulerPresenterPrivate::currentFrame() const
+{
+    return ruler ? ruler->currentFrame() : 0;
+}
+
+void MvTimelineRulerPresenterPrivate::setCurrentFrame(qint64 frame)
+{
+    if (playhead)
+        playhead->setCurrentFrame(frame);
 }
 
 MvTimelineRulerPresenter::MvTimelineRulerPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
@@ -256,6 +271,24 @@ void MvTimelineRulerPresenter::paint(QWidget* widget)
 {
     Q_D(MvTimelineRulerPresenter);
     d->paint(widget);
+}
+
+qint64 MvTimelineRulerPresenter::currentFrame()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return d->currentFrame();
+}
+
+QString MvTimelineRulerPresenter::currentTimecode()
+{
+    Q_D(MvTimelineRulerPresenter);
+    return MvModelAccess::timeCode(d->ruler, d->currentFrame());
+}
+
+void MvTimelineRulerPresenter::setCurrentFrame(qint64 frame)
+{
+    Q_D(MvTimelineRulerPresenter);
+    d->setCurrentFrame(frame);
 }
 
 QString MvTimelineRulerPresenter::formatTimecode(int frame, int numerator, int denominator)

@@ -43,6 +43,12 @@ public:
     void updateTimelineMenu();
     void paint(QWidget* widget);
 
+    // The frame the ruler marks as current (the playhead's), and its time code at the ruler's rate.
+    qint64 currentFrame();
+    QString currentTimecode();
+    // Moves the playhead to a frame; the model keeps it within the timeline.
+    void setCurrentFrame(qint64 frame);
+
     // "hh:mm:ss:ff" of a frame at a rational rate, without drop-frame counting.
     static QString formatTimecode(int frame, int numerator, int denominator);
     static QString formatTimecode(int frame, float fps);
@@ -54,6 +60,7 @@ Q_SIGNALS:
     void totalFrameChanged();
     void minVisualChanged();
     void sigViewWidthChanged();
+    void currentFrameChanged();
 
 protected:
     IMvTimelineRuler* ruler() const;

@@ -33,6 +33,8 @@ public:
     void moveRulerRange(bool backward);
     void updateTimelineMenu();
     void paint(QWidget* widget);
+    qint64 currentFrame() const;
+    void setCurrentFrame(qint64 frame);
 
     // Not owned; a host may delete it first. The ruler and playhead stay reachable: the model outlives both.
     QPointer<MvTimelinePresenter> timelinePresenter;

@@ -1,6 +1,7 @@
 #include "MvTimelineRulerWidget.h"
 
 #include "MvEventFilterManager.h"
+#include "MvTimelineAccessible_p.h"
 #include "MvTimelineRulerWidget_p.h"
 
 #include <QWheelEvent>
@@ -98,6 +99,14 @@ void MvTimelineRulerWidget::setPresenter(MvTimelineRulerPresenter* presenter)
     connect(presenter, &MvTimelineRulerPresenter::zoomChanged, this, repaint);
     connect(presenter, &MvTimelineRulerPresenter::visualRangeChanged, this, repaint);
     connect(presenter, &MvTimelineRulerPresenter::totalFrameChanged, this, repaint);
+    connect(presenter, &MvTimelineRulerPresenter::currentFrameChanged, this,
+        [this] { MvAccessibleAnnouncer::valueChanged(this); });
+}
+
+MvTimelineRulerPresenter* MvTimelineRulerWidget::presenter() const
+{
+    Q_D(const MvTimelineRulerWidget);
+    return d->presenter;
 }
 
 MvEventFilterManager* MvTimelineRulerWidget::eventFilterMgr()

@@ -20,6 +20,7 @@ public:
     ~MvTimelineRulerWidget() override;
 
     void setPresenter(MvTimelineRulerPresenter* presenter);
+    MvTimelineRulerPresenter* presenter() const;
     MvEventFilterManager* eventFilterMgr();
 
 protected:
