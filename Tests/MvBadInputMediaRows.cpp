@@ -101,8 +101,46 @@ void addMediaRows()
         true, QStringLiteral("not vcg item|4|MvTimelinePresenter::downloadAndSelectVCGItems"));
 }
 
+void addTransitionAndEffectRows()
+{
+    using P = MvSampleHost;
+    row(
+        "transitions and effects with null clips and items, at the 64-bit extremes", nothing,
+        [](P& p) {
+            MvTimelinePresenter& t = p.presenter;
+            t.addTransitionMedia(QList<IMvClip*>(), nullptr, kMaxFrame);
+            t.addTransitionMedia(QList<IMvClip*>({ nullptr, p.foreign, p.removed }), nullptr, kMinFrame);
+            t.addTransitionMedia(nullptr, nullptr, kMaxFrame, TransitionType_Start);
+            t.addTransitionMedia(p.clip(2), nullptr, kMinFrame, kMaxInt);
+            t.randomAddTransitionMedia({ nullptr }, { nullptr }, kMaxFrame);
+            t.randomAddTransitionMedia({}, {}, -1);
+            t.addEffectMedia(nullptr, nullptr);
+            t.addEffectMedia(p.foreign, nullptr);
+            t.addEffectMedias({ nullptr, p.removed }, nullptr);
+            t.copyEffect();
+            t.pasteEffect();
+            t.deleteEffect();
+            return done(t.hasEffect() || t.canPasteEffect());
+        },
+        false);
+}
+
 void addOrphanMediaRows()
 {
+    row(
+        "transitions and effects without a timeline",
+        [](MvOrphanHost& o) {
+            MvTimelinePresenter& t = o.presenter;
+            t.addTransitionMedia(QList<IMvClip*>({ nullptr }), nullptr, kMaxFrame);
+            t.addTransitionMedia(nullptr, nullptr, kMinFrame, TransitionType_End);
+            t.randomAddTransitionMedia({ nullptr }, { nullptr }, 30);
+            t.addEffectMedias({ nullptr }, nullptr);
+            t.copyEffect();
+            t.pasteEffect();
+            t.deleteEffect();
+            return done(t.hasEffect() || t.canPasteEffect());
+        },
+        false);
     row(
         "media without a timeline",
         [](MvOrphanHost& o) {

@@ -55,6 +55,8 @@ inline void row(const char* name, const WidgetCall& call, const QVariant& result
 // Adding media: requests with nothing to add, items that cannot go on, frames past the end.
 void addMediaRows();
 void addOrphanMediaRows();
+// Transitions and effects from the library, and the effect clipboard.
+void addTransitionAndEffectRows();
 // Copy and paste, the track headers' commands, the sound of the selection.
 void addClipboardAndTrackRows();
 void addOrphanClipboardAndTrackRows();

@@ -717,6 +717,7 @@ void tst_MvBadInput::commandsRefuseAndChangeNothing_data()
     addRequestRows();
     addPanelRows();
     addMediaRows();
+    addTransitionAndEffectRows();
     addClipboardAndTrackRows();
     addKeyFrameRows();
     addPresenterRows();
