@@ -3,7 +3,7 @@
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: all deps configure build demo test bench asan tsan release install clean format format-check tidy
+.PHONY: all deps configure build demo test stress fault fault-run bench asan tsan release install clean format format-check tidy
 
 all: build
 
@@ -21,6 +21,29 @@ demo: build
 
 test: build
 	@cd build/dev && ctest --output-on-failure -j $(JOBS)
+
+# The random-command test run long: a million commands (MV_RANDOM_STEPS) from a new seed each time
+# (MV_RANDOM_SEED, printed first). A failure prints the seed of its round and a short sequence to replay.
+stress: build
+	@MV_RANDOM_SEED=$${MV_RANDOM_SEED:-$$(date +%s)} MV_RANDOM_STEPS=$${MV_RANDOM_STEPS:-1000000} \
+		./build/dev/Tests/tst_MvRandomCommands everyCheckHoldsOverARandomRun
+
+# Proves that the random-command test can fail: it runs over an in-memory model with a deliberate
+# fault planted (FAULT, see cmake/MvPlantFault.cmake), built apart in build/fault-<FAULT>. This
+# target succeeds when the run fails, as it must.
+FAULT ?= undo-forgets-field
+fault: deps
+	@cmake --preset dev -B build/fault-$(FAULT) -DMV_PLANT_FAULT=$(FAULT) -DMV_BUILD_DEMO=OFF -DMV_BUILD_BENCH=OFF > /dev/null
+	@cmake --build build/fault-$(FAULT) -j $(JOBS) --target tst_MvRandomCommands
+	@if ./build/fault-$(FAULT)/Tests/tst_MvRandomCommands everyCheckHoldsOverARandomRun; then \
+		echo "The planted fault $(FAULT) went unnoticed."; exit 1; \
+	else echo "The planted fault $(FAULT) was found (the failure above is expected)."; fi
+
+# How much the suite is worth: plants each fault of tools/fault-run.py, one at a time, in a copy of
+# the sources (build/fault-run) and reports which the suite catches. FAULT_TESTS narrows the suite
+# (a ctest -R pattern), FAULT_ONLY the faults (a name prefix).
+fault-run: deps
+	@./tools/fault-run.py $(if $(FAULT_TESTS),--tests '$(FAULT_TESTS)') $(if $(FAULT_ONLY),--only '$(FAULT_ONLY)')
 
 bench: deps
 	@cmake --preset release > /dev/null

@@ -15,6 +15,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <limits>
 #include <thread>
 
 using namespace MVVBLMODEL;
@@ -90,6 +91,8 @@ private Q_SLOTS:
     void rowRule_data();
     void rowRule();
     void lengthsStartAndFieldsOfTheRequest();
+    void aClipEndsBeforeTheLastFrame_data();
+    void aClipEndsBeforeTheLastFrame();
     void insertionIsOneUndoStep();
     void compoundItemsAndTheirFlags_data();
     void compoundItemsAndTheirFlags();
@@ -266,6 +269,41 @@ void tst_MvMemoryMedia::lengthsStartAndFieldsOfTheRequest()
     const QString state = f.timeline.stateText();
     QCOMPARE(state.count(QLatin1String("colours:")), 1);
     QVERIFY(state.contains(QLatin1String("colours: text #ffffff00 background #ff000000")));
+}
+
+void tst_MvMemoryMedia::aClipEndsBeforeTheLastFrame_data()
+{
+    constexpr qint64 last = std::numeric_limits<qint64>::max();
+    QTest::addColumn<qint64>("start");
+    QTest::addColumn<qint64>("length");
+    QTest::addColumn<QString>("placed");
+    QTest::newRow("the longest clip from frame 0")
+        << qint64(0) << last << QStringLiteral("row 0: still 0..%1").arg(last - 1);
+    QTest::newRow("one frame more") << qint64(1) << last << QString();
+    QTest::newRow("one frame at the last frame a clip may cover")
+        << last - 1 << qint64(1) << QStringLiteral("row 0: still %1..%1").arg(last - 1);
+    QTest::newRow("one frame at the last 64-bit frame") << last << qint64(1) << QString();
+}
+
+// The duration (last end + 1) stays a 64-bit count: a clip that would end on the last 64-bit
+// frame, or past it, is refused and makes no step.
+void tst_MvMemoryMedia::aClipEndsBeforeTheLastFrame()
+{
+    QFETCH(qint64, start);
+    QFETCH(qint64, length);
+    QFETCH(QString, placed);
+    MvEditFixture<> f;
+    MvMemoryMediaItem still(QStringLiteral("still"), MediaType_Image, 1000);
+    MvTimelineAddMediaParam param = request({ &still }, start);
+    param.lengths = { length };
+    QList<IMvClip*> clips;
+
+    f.timeline.addMedias(param, clips, -1);
+
+    QCOMPARE(::placed(clips), placed);
+    QCOMPARE(f.undoCount(), placed.isEmpty() ? 0 : 1);
+    QCOMPARE(f.timeline.duration(), placed.isEmpty() ? qint64(0) : start + length);
+    QCOMPARE(f.timeline.checkInvariants(), QString());
 }
 
 void tst_MvMemoryMedia::insertionIsOneUndoStep()

@@ -153,6 +153,8 @@ private Q_SLOTS:
     void editIsAllOrNothing();
     void splitCarriesMarkersKeysTransitionsAndGroup();
     void rippleDeleteClosesTheGaps();
+    void movedClipsMayNotShareAFrame_data();
+    void movedClipsMayNotShareAFrame();
     void groupRules();
     void playheadNotifiesOnlyOnChange();
     void invariantCheckerCatchesBrokenStates();
@@ -197,6 +199,9 @@ void tst_MvMemoryTimeline::editIsAllOrNothing_data()
     QTest::newRow("move onto a missing row") << move << a << QList<int> { -1 } << qint64(0) << QString();
     QTest::newRow("move onto a locked row") << move << a << QList<int> { 2 } << qint64(200) << QString();
     QTest::newRow("move nowhere") << move << a << same << qint64(0) << QString();
+    QTest::newRow("move one frame before zero") << move << a << same << qint64(-1) << QString();
+    QTest::newRow("move onto frame zero")
+        << move << QStringLiteral("c") << same << qint64(-50) << QStringLiteral("1:0..99");
     QTest::newRow("move, offsets do not match") << move << a << QList<int> { 0, 0 } << qint64(5) << QString();
     QTest::newRow("move exchanging rows")
         << move << ac << QList<int> { 1, -1 } << qint64(0) << QStringLiteral("1:0..99 0:50..149");
@@ -251,6 +256,34 @@ void tst_MvMemoryTimeline::editIsAllOrNothing()
     QCOMPARE(spans(targets + pieces), expected);
     QCOMPARE(p.undoName(), command);
     QCOMPARE(p.timeline->checkInvariants(), QString());
+}
+
+void tst_MvMemoryTimeline::movedClipsMayNotShareAFrame_data()
+{
+    QTest::addColumn<qint64>("secondStart"); // on the row below; the first clip covers 0..99
+    QTest::addColumn<bool>("moved");
+    QTest::newRow("one frame shared") << qint64(99) << false;
+    QTest::newRow("end to end") << qint64(100) << true;
+}
+
+// Clips moved together onto one row must not land on a common frame (a clip's last frame is its own).
+void tst_MvMemoryTimeline::movedClipsMayNotShareAFrame()
+{
+    QFETCH(qint64, secondStart);
+    QFETCH(bool, moved);
+    MvMemoryTimeline timeline;
+    timeline.addTrack(TrackType_Picture);
+    timeline.addTrack(TrackType_Picture);
+    MvMemoryClip* first = timeline.addClip(0, ClipType_Video, 0, 99, QStringLiteral("first"));
+    MvMemoryClip* second = timeline.addClip(1, ClipType_Video, secondStart, secondStart + 99, QStringLiteral("second"));
+    timeline.undoService()->clear();
+
+    QCOMPARE(timeline.moveClips({ first, second }, { 1, 0 }, 10, 2), moved);
+
+    QCOMPARE(first->trackIndex(), moved ? 1 : 0);
+    QCOMPARE(first->start(), moved ? qint64(10) : qint64(0));
+    QCOMPARE(timeline.undoService()->undoCount(), moved ? 1 : 0);
+    QCOMPARE(timeline.checkInvariants(), QString());
 }
 
 void tst_MvMemoryTimeline::splitCarriesMarkersKeysTransitionsAndGroup()

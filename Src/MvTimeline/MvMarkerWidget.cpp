@@ -7,6 +7,8 @@
 #include <QHelpEvent>
 #include <QPainter>
 
+#include <limits>
+
 namespace {
 constexpr int kMarkerWidth = 11;
 constexpr int kMarkerHeight = 14;
@@ -66,6 +68,14 @@ void MvMarkerWidget::setPresenter(MvMarkerPresenter* presenter)
     connect(presenter, &MvMarkerPresenter::signalMarkerCountChanged, this, &MvMarkerWidget::slotMarkerCountChanged);
     connect(presenter, &MvMarkerPresenter::signalClearTimelineSelectedMarker, this,
         &MvMarkerWidget::slotClearTimelineSelectedMarker);
+    // A host may delete the presenter first; the strip then shows no markers.
+    connect(presenter, &QObject::destroyed, this, [this, presenter]() {
+        if (m_presenter != presenter)
+            return;
+        m_presenter = nullptr;
+        m_markers.clear();
+        update();
+    });
     slotMarkerCountChanged();
 }
 
@@ -81,7 +91,10 @@ QList<MvMarkerPresenter::MarkerItem> MvMarkerWidget::markers() const
 
 QRect MvMarkerWidget::markerRect(int x)
 {
-    return QRect(x - kMarkerWidth / 2, -1, kMarkerWidth, kMarkerHeight);
+    // A marker far off the strip, at an end of the int range, keeps its size instead of overflowing.
+    const int left = int(qBound<qint64>(
+        std::numeric_limits<int>::min(), qint64(x) - kMarkerWidth / 2, std::numeric_limits<int>::max() - kMarkerWidth));
+    return QRect(left, -1, kMarkerWidth, kMarkerHeight);
 }
 
 int MvMarkerWidget::markerAt(const QPoint& pos) const

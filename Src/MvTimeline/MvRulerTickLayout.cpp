@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace MvRulerTickLayout {
 
@@ -53,6 +54,9 @@ void layout(const MvRulerLayoutInput& input, MvRulerLayout* out)
             }
         }
         out->ticks.append(entry);
+        // A ruler that reaches the last 64-bit frame ends there.
+        if (frame > std::numeric_limits<qint64>::max() - step)
+            break;
         frame += step;
         x += input.spacing;
     }

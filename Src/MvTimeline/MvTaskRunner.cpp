@@ -59,7 +59,8 @@ void MvTaskRunner::runWhileWaiting(const Task& task, QDialog* dialog)
     handOver->pass();
     watcher.setFuture(m_executor([task, handOver]() {
         handOver->pass();
-        task();
+        if (task) // an empty task has nothing to run: it ends at once
+            task();
         handOver->pass();
     }));
     if (dialog)

@@ -6,11 +6,17 @@
 #include "MvTimelinePresenter.h"
 
 #include <algorithm>
+#include <limits>
 
 using MVWIDGETS::MvWidgetStyleStatus;
 
 namespace {
 constexpr int kPlayheadImageSide = 12;
+
+int boundedToInt(qint64 value)
+{
+    return int(qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+}
 
 // The playhead kinds that change what the widget shows: visibility, enabled state, position and
 // the split button's visibility and enabled state.
@@ -87,11 +93,15 @@ bool MvTimelinePlayheadPresenterPrivate::modelEnabled() const
     return head && head->isEnabled();
 }
 
-int MvTimelinePlayheadPresenterPrivate::clampedSplitButtonY(int requested) const
+int MvTimelinePlayheadPresenterPrivate::lowestSplitButtonY() const
+{
+    return boundedToInt(qint64(data.viewRect.height()) - data.splitButton.size.height());
+}
+
+int MvTimelinePlayheadPresenterPrivate::clampedSplitButtonY(qint64 requested) const
 {
     // The lower bound is applied last: in a view too low for the button, minY wins.
-    const int lowest = data.viewRect.height() - data.splitButton.size.height();
-    return std::max(data.splitButton.minY, std::min(lowest, requested));
+    return std::max(data.splitButton.minY, boundedToInt(std::min<qint64>(lowestSplitButtonY(), requested)));
 }
 
 MvTimelinePlayheadPresenter::MvTimelinePlayheadPresenter(MvTimelinePresenter* timelinePresenter, QObject* parent)
@@ -152,7 +162,8 @@ void MvTimelinePlayheadPresenter::updatePosition(int x, int dy)
     Q_D(MvTimelinePlayheadPresenter);
     if (IMvTimelinePlayhead* head = d->playhead())
         head->setPosition(x);
-    setSplitButtonY(d->data.splitButton.y + dy);
+    // In 64 bits: a drag far outside the view must not wrap the button around.
+    d->data.splitButton.y = d->clampedSplitButtonY(qint64(d->data.splitButton.y) + dy);
 }
 
 void MvTimelinePlayheadPresenter::updateViewRect(const QRect& rect)
@@ -267,7 +278,7 @@ void MvTimelinePlayheadPresenter::setSplitButtonMinY(int minY)
 MvRange<int> MvTimelinePlayheadPresenter::splitButtonYRange()
 {
     Q_D(MvTimelinePlayheadPresenter);
-    return MvRange<int>(d->data.splitButton.minY, d->data.viewRect.height() - d->data.splitButton.size.height());
+    return MvRange<int>(d->data.splitButton.minY, d->lowestSplitButtonY());
 }
 
 void MvTimelinePlayheadPresenter::splitClips()

@@ -5,6 +5,8 @@
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
 
+#include <QPointer>
+
 class MvTimelinePlayheadPresenterPrivate : public IMvPlayheadEventObserver, public IMvTimelineRulerEventObserover
 {
     Q_DECLARE_PUBLIC(MvTimelinePlayheadPresenter)
@@ -19,10 +21,12 @@ public:
     void unregisterObservers();
     IMvTimelinePlayhead* playhead() const;
     bool modelEnabled() const;
-    int clampedSplitButtonY(int requested) const;
+    int lowestSplitButtonY() const;
+    int clampedSplitButtonY(qint64 requested) const;
 
     MvTimelinePlayheadPresenter* q_ptr;
-    MvTimelinePresenter* timelinePresenter;
+    // Not owned; a host may delete it first, and then this presenter is inert.
+    QPointer<MvTimelinePresenter> timelinePresenter;
     MvPlayheadData data;
     // What the constructor registered with, so that the destructor leaves the same objects.
     IMvTimelinePlayhead* observedPlayhead = nullptr;

@@ -32,8 +32,14 @@ MvTimelinePlayheadWidget::MvTimelinePlayheadWidget(MvTimelinePlayheadPresenter* 
 {
     // The host hands us the events of the widget underneath; Qt must not deliver its own.
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    if (m_presenter)
-        connect(m_presenter, &MvTimelinePlayheadPresenter::sigUpdateUI, this, &MvTimelinePlayheadWidget::slotUpdateUI);
+    if (!m_presenter)
+        return;
+    connect(m_presenter, &MvTimelinePlayheadPresenter::sigUpdateUI, this, &MvTimelinePlayheadWidget::slotUpdateUI);
+    // A host may delete the presenter first; the overlay then shows nothing and takes no events.
+    connect(m_presenter, &QObject::destroyed, this, [this]() {
+        m_presenter = nullptr;
+        update();
+    });
 }
 
 MvTimelinePlayheadWidget::~MvTimelinePlayheadWidget() = default;

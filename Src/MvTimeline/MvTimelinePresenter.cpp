@@ -14,6 +14,7 @@
 #include "MvTaskRunner_p.h"
 #include "MvTimelineVirtualPlayheadPresenter.h"
 
+#include <limits>
 #include <new>
 
 using namespace MVVBLMODEL;
@@ -210,7 +211,14 @@ void MvTimelinePresenter::switchMediaPlayerToTimeline()
 
 void MvTimelinePresenter::showEmptyClip(qint64 x, qint64 y, int width, int height)
 {
-    m_emptyClipRect = QRect(int(x), int(y), width, height);
+    // The far corner is worked out in 64 bits: sizes at the ends of the int range give the nearest
+    // rectangle, not an overflow.
+    const auto narrow = [](qint64 value) {
+        return int(qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+    };
+    const QPoint topLeft(static_cast<int>(x), static_cast<int>(y));
+    m_emptyClipRect
+        = QRect(topLeft, QPoint(narrow(qint64(topLeft.x()) + width - 1), narrow(qint64(topLeft.y()) + height - 1)));
     Q_EMIT sigEmptyClipItemStateChanged(true);
 }
 

@@ -144,7 +144,8 @@ bool MvTimelinePresenterPrivate::moveClipsVertical(int trackIndexOffset)
 {
     MV_FUNCTION("MvTimelinePresenterPrivate::moveClipsVertical");
     MV_LOG(MvBaseLog::Note, QString::asprintf("vertical move clips, trackIndexOffset %d", trackIndexOffset));
-    if (trackIndexOffset == 0 || !timeline)
+    // An offset past every row can land nowhere (and its row arithmetic would overflow).
+    if (trackIndexOffset == 0 || !timeline || qAbs(qint64(trackIndexOffset)) >= timeline->trackCount())
         return false;
     const QList<IMvClip*> selected = MvModelAccess::selectedClips(timeline);
     if (selected.isEmpty())

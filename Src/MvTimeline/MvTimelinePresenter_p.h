@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QHash>
 #include <QList>
+#include <QPointer>
 
 class IMvAbstractClip;
 #include <functional>
@@ -27,8 +28,9 @@ public:
     ~MvTimelinePresenterPrivate();
 
     MvTimelinePresenter* q_ptr;
-    MvTimelineVirtualPlayheadPresenter* virtualPlayheadPresenter = nullptr;
-    MvKeyFramePresenter* keyFramePresenter = nullptr;
+    // Qt children of the presenter, which a host may still delete first: then they read as null.
+    QPointer<MvTimelineVirtualPlayheadPresenter> virtualPlayheadPresenter;
+    QPointer<MvKeyFramePresenter> keyFramePresenter;
     IMvTimeline* timeline;
     MvTimelinePresenter::MvTimelineViewConfig* config;
     bool actionEnabled = true;

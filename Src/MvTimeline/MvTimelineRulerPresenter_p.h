@@ -5,6 +5,8 @@
 #include "MvRulerPainter_p.h"
 #include "MvTimelineRulerPresenter.h"
 
+#include <QPointer>
+
 class MvTimelineRulerPresenterPrivate : public IMvTimelineRulerEventObserover, public IMvPlayheadEventObserver
 {
     Q_DECLARE_PUBLIC(MvTimelineRulerPresenter)
@@ -34,7 +36,8 @@ public:
     qint64 currentFrame() const;
     void setCurrentFrame(qint64 frame);
 
-    MvTimelinePresenter* timelinePresenter;
+    // Not owned; a host may delete it first. The ruler and playhead stay reachable: the model outlives both.
+    QPointer<MvTimelinePresenter> timelinePresenter;
     MvTimelineRulerPresenter* q_ptr;
     IMvTimelineRuler* ruler = nullptr;
     IMvTimelinePlayhead* playhead = nullptr;

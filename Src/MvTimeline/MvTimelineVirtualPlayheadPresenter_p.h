@@ -6,6 +6,7 @@
 #include "MvObserverConnector_p.h"
 
 #include <QList>
+#include <QPointer>
 
 class MvTimelineVirtualPlayheadPresenterPrivate : public IMvPlayheadEventObserver
 {
@@ -28,7 +29,8 @@ public:
 
     QList<IMvObserverConnector*> connectors;
     MvTimelineVirtualPlayheadPresenter* q_ptr;
-    MvTimelinePresenter* timelinePresenter;
+    // The owner, unless a host keeps this presenter past it.
+    QPointer<MvTimelinePresenter> timelinePresenter;
     IMvTimelinePlayhead* playhead = nullptr;
     bool opened = false;
     bool shown = false;

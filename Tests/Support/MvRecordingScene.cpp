@@ -64,11 +64,16 @@ void MvRecordingScene::answer(int id, Answer answer)
 
 void MvRecordingScene::answerWith(int id, const QVariant& value)
 {
+    answerEach(id, [value]() { return value; });
+}
+
+void MvRecordingScene::answerEach(int id, std::function<QVariant()> value)
+{
     answer(id, [value](MvMessage* message) {
         if (auto* data = dynamic_cast<MvDataMessage*>(message))
-            data->setData(value);
+            data->setData(value());
         else if (auto* query = dynamic_cast<MvQueryMessage*>(message))
-            query->setAnswer(value);
+            query->setAnswer(value());
     });
 }
 

@@ -33,6 +33,9 @@ public:
     void answer(int id, Answer answer);
     // Answers MvQueryMessage / MvDataMessage with a fixed value.
     void answerWith(int id, const QVariant& value);
+    // Answers MvQueryMessage / MvDataMessage with a value made for each message (a seeded
+    // generator's pick, say).
+    void answerEach(int id, std::function<QVariant()> value);
     // Called for every message, after recording and answering: for a shared call journal.
     void setObserver(std::function<void(const Entry&)> observer) { m_observer = std::move(observer); }
 

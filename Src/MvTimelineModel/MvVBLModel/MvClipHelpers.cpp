@@ -11,8 +11,21 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
+// frame + offset, held at the ends of the 64-bit range (a frame far off a clip stays far off).
+qint64 shifted(qint64 frame, qint64 offset)
+{
+    constexpr qint64 last = std::numeric_limits<qint64>::max();
+    constexpr qint64 first = std::numeric_limits<qint64>::min();
+    if (offset > 0 && frame > last - offset)
+        return last;
+    if (offset < 0 && frame < first - offset)
+        return first;
+    return frame + offset;
+}
+
 bool cuttable(const IMvClip* clip)
 {
     return clip && clip->track() && !clip->track()->isLocked();
@@ -201,12 +214,12 @@ bool MvKeyFrameHelper2::canAddKeyFrame(IMvClip* clip, qint64 timelineFrame, bool
 
 qint64 MvKeyFrameHelper2::mapFromTimeline(IMvClip* clip, qint64 timelineFrame)
 {
-    return clip ? timelineFrame - clip->start() : timelineFrame;
+    return clip ? shifted(timelineFrame, -clip->start()) : timelineFrame;
 }
 
 qint64 MvKeyFrameHelper2::mapToTimeline(IMvClip* clip, qint64 clipFrame)
 {
-    return clip ? clipFrame + clip->start() : clipFrame;
+    return clip ? shifted(clipFrame, clip->start()) : clipFrame;
 }
 
 qint64 MvKeyFrameHelper2::mapFormBelongTimeline(IMvClip* clip, qint64 frame)

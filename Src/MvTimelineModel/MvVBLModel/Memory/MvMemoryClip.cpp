@@ -9,8 +9,15 @@ using namespace MVVBLMODEL;
 
 bool MvMemoryClipState::operator==(const MvMemoryClipState& other) const
 {
+#ifdef MV_PLANT_FAULT_UNDO_FORGETS_FIELD
+    // PLANTED FAULT, compiled only with MV_PLANT_FAULT=undo-forgets-field: the rotation is left out
+    // of the comparison, so a turn is never recorded and undo cannot give it back.
+    const bool sameRotation = true;
+#else
+    const bool sameRotation = rotation == other.rotation;
+#endif
     return type == other.type && start == other.start && end == other.end && name == other.name
-        && enabled == other.enabled && track == other.track && rotation == other.rotation && follower == other.follower
+        && enabled == other.enabled && track == other.track && sameRotation && follower == other.follower
         && tracking == other.tracking && smartKeying == other.smartKeying && smartKeyingNodes == other.smartKeyingNodes
         && videoKeys == other.videoKeys && audioKeys == other.audioKeys && freezeFrames == other.freezeFrames
         && content == other.content && resource == other.resource && container == other.container

@@ -298,6 +298,9 @@ QList<IMvTransition*> transitions(MvMemoryTimeline* timeline, const MvMemoryCopy
             continue;
         done.insert(clip);
         for (const MvMemoryTransition::State& pick : qAsConst(picks)) {
+            // A sound blend goes only onto a clip with sound, a picture blend onto one with a picture.
+            if (!(pick.audio ? clipHasSound(clip->type()) : clipHasPicture(clip->type())))
+                continue;
             const QList<MvMemoryTransition*> present = clip->liveTransitions();
             for (MvMemoryTransition* old : present) {
                 if (old->placement() == pick.placement)

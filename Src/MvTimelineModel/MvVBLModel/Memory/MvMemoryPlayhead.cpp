@@ -174,7 +174,8 @@ bool MvMemoryPlayhead::isFrameSettled(qint64 frame) const
     const MVVBLMODEL::MvRational rate = m_timeline->frameRate();
     const double fps = rate.denominator > 0 ? double(rate.numerator) / double(rate.denominator) : 0.0;
     const qint64 second = qMax<qint64>(1, qint64(std::ceil(fps)));
-    return qAbs(frame - m_settledFrame) <= second;
+    // Compared from the settled frame, so that no frame of the 64-bit range overflows.
+    return m_settledFrame - second <= frame && frame <= m_settledFrame + second;
 }
 
 void MvMemoryPlayhead::setSeekHold(bool hold)

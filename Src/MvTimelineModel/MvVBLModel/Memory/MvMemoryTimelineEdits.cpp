@@ -6,8 +6,12 @@
 #include <QHash>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
+// The last frame a clip may cover: the duration (last end + 1) stays a 64-bit count.
+constexpr qint64 kLastFrame = std::numeric_limits<qint64>::max() - 1;
+
 // Keys at offset and after go to the returned map, rebased to offset; the rest stay.
 template <typename Map> Map splitTail(Map& source, qint64 offset)
 {
@@ -150,7 +154,9 @@ bool MvMemoryTimelinePrivate::moveAllowed(const QList<MvMemoryClip*>& clips, con
         MvMemoryTrack* target = targets.at(i);
         if (!editable(clip) || !target || target->isLocked() || !target->accepts(clip->type()))
             return false;
-        if (clip->start() + frameOffset < 0)
+        // A move before frame 0 or past the last frame is refused, never wrapped around.
+        const bool fits = frameOffset > 0 ? clip->end() <= kLastFrame - frameOffset : clip->start() + frameOffset >= 0;
+        if (!fits)
             return false;
         spans[target].emplace_back(clip->start() + frameOffset, clip->end() + frameOffset);
     }
@@ -188,7 +194,8 @@ bool MvMemoryTimeline::moveClips(QList<IMvClip*> clips, QList<int> trackOffsets,
         if (marks.mark(size_t(clip->number())))
             continue;
         moving.append(clip);
-        targets.append(memoryTrack(clip->trackIndex() + trackOffsets.at(i)));
+        const qint64 row = qint64(clip->trackIndex()) + trackOffsets.at(i);
+        targets.append(row >= 0 && row < trackCount() ? memoryTrack(int(row)) : nullptr);
         anyChange = anyChange || trackOffsets.at(i) != 0;
     }
     if (!anyChange || !d->moveAllowed(moving, targets, frameOffset, marks))

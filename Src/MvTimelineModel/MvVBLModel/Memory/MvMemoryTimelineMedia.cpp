@@ -7,6 +7,8 @@
 #include "MvMemoryTimeline_p.h"
 #include "MvTimelineAddMediaParam.h"
 
+#include <limits>
+
 using namespace MVVBLMODEL;
 
 namespace {
@@ -101,6 +103,10 @@ MvMemoryClip* MvMemoryTimelinePrivate::insertMediaClip(
     if (length < 1)
         length = stillLength(rate);
     const qint64 start = qMax<qint64>(0, param.startFrame);
+    // A clip must end before the last 64-bit frame, so that the duration (last end + 1) stays a
+    // 64-bit count; one that would not is refused.
+    if (length > std::numeric_limits<qint64>::max() - start)
+        return nullptr;
     MvMemoryTrack* track = rowForMedia(type, param.trackIndex, start, start + length - 1, policy);
     if (!track)
         return nullptr;
