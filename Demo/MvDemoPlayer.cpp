@@ -4,7 +4,9 @@
 #include "IMvTimelinePlayhead.h"
 #include "IMvTimelineRuler.h"
 
-MvDemoPlayer::MvDemoPlayer(IMvTimeline* timeline, QObject* parent) : QObject(parent), m_timeline(timeline)
+MvDemoPlayer::MvDemoPlayer(IMvTimeline* timeline, QObject* parent)
+    : QObject(parent)
+    , m_timeline(timeline)
 {
     connect(&m_timer, &QTimer::timeout, this, &MvDemoPlayer::advance);
 }

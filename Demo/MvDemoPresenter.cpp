@@ -1,8 +1,8 @@
 #include "MvDemoPresenter.h"
 
+#include "IMvAbstractMediaItem.h"
 #include "IMvTimeline.h"
 #include "IMvTrack.h"
-#include "IMvAbstractMediaItem.h"
 
 void MvDemoPresenter::updateAction()
 {

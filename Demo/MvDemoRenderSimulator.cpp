@@ -9,7 +9,9 @@ constexpr int TickMs = 100;
 }
 
 MvDemoRenderSimulator::MvDemoRenderSimulator(IMvTimeline* timeline, QObject* parent)
-    : QObject(parent), m_timeline(timeline), m_service(dynamic_cast<MvMemoryRenderService*>(timeline->renderService()))
+    : QObject(parent)
+    , m_timeline(timeline)
+    , m_service(dynamic_cast<MvMemoryRenderService*>(timeline->renderService()))
 {
     connect(&m_timer, &QTimer::timeout, this, &MvDemoRenderSimulator::step);
     if (!m_service)

@@ -202,8 +202,8 @@ void tst_MvDemoClipboard::clearEmptyTracksOnceARowIsEmpty()
     QVERIFY(!clear->isEnabled());
     const QList<IMvClip*> secondRow = demo.timeline()->trackAt(1)->clips();
     for (const IMvClip* clip : secondRow) {
-        QTest::mouseClick(demo.area(), Qt::LeftButton, Qt::ControlModifier,
-            demo.area()->clipRect(clip, clip->trackIndex()).center());
+        QTest::mouseClick(
+            demo.area(), Qt::LeftButton, Qt::ControlModifier, demo.area()->clipRect(clip, clip->trackIndex()).center());
     }
     demo.keys(demo.area(), Qt::Key_X);
     QVERIFY(demo.timeline()->trackAt(1)->clips().isEmpty());

@@ -1,6 +1,6 @@
-#include "MvRulerModel.h"
 #include "MvDemoFrameMapping.h"
 #include "MvDemoNavigation.h"
+#include "MvRulerModel.h"
 
 #include <QtTest>
 

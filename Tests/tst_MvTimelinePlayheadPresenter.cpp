@@ -2,9 +2,9 @@
 #include "IMvTimelineRuler.h"
 #include "Memory/MvMemoryClip.h"
 #include "Memory/MvMemoryPlayhead.h"
-#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
 #include "MvRecordingTimeline.h"
+#include "MvRulerModel.h"
 #include "MvTimelinePlayheadPresenter.h"
 #include "MvTimelinePresenter.h"
 

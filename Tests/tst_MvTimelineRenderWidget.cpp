@@ -1,6 +1,6 @@
 #include "Memory/MvMemoryRenderService.h"
-#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvRulerModel.h"
 #include "MvStripPainter_p.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRenderWidget.h"

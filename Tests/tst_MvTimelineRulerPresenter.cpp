@@ -1,6 +1,6 @@
 #include "Memory/MvMemoryPlayhead.h"
-#include "MvRulerModel.h"
 #include "Memory/MvMemoryTimeline.h"
+#include "MvRulerModel.h"
 #include "MvSkinStyle.h"
 #include "MvTimelinePresenter.h"
 #include "MvTimelineRulerPresenter.h"

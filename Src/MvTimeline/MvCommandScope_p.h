@@ -16,18 +16,19 @@ class MvUndoRedoCommander;
 class MVTIMELINE_TEST_EXPORT MvCommandScope
 {
 public:
-    enum Pause {
+    enum Pause
+    {
         NoPause,
-        PausePlayer,         // the bare id 7012
-        PausePlayerMessage,  // an MvMessage carrying 7012
+        PausePlayer, // the bare id 7012
+        PausePlayerMessage, // an MvMessage carrying 7012
         PausePlayerWithSync, // the bare id 7036: pause and wait until the player is in sync
     };
 
     // Pauses only: for commands whose model call records its own undo step.
     MvCommandScope(const MvPresenter* presenter, Pause pause);
     // Pauses, then opens the step (none when the service is null, as with a model that has no undo).
-    MvCommandScope(const MvPresenter* presenter, Pause pause, IMvUndoRedoService* undoService,
-        const QString& stepName, const QString& source);
+    MvCommandScope(const MvPresenter* presenter, Pause pause, IMvUndoRedoService* undoService, const QString& stepName,
+        const QString& source);
     ~MvCommandScope();
 
     static void pause(const MvPresenter* presenter, Pause pause);

@@ -8,9 +8,9 @@
 #include "IMvTimelinePlayhead.h"
 #include "IMvUndoRedoService.h"
 #include "MvClipHelpers.h"
+#include "MvCommandScope_p.h"
 #include "MvMessage.h"
 #include "MvModelMessages.h"
-#include "MvCommandScope_p.h"
 #include "MvTimelineLog_p.h"
 #include "MvTimelineModelAccess_p.h"
 

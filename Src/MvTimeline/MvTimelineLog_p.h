@@ -27,5 +27,5 @@
     do {                                                                                                               \
         MvBaseLog* mvLogger = MvBaseLog::defaultLogger();                                                              \
         if (mvLogger->accepts(level))                                                                                  \
-            mvLogger->log((level), QLatin1String(mvLogFile), __LINE__, QLatin1String(mvFunction), (message));         \
+            mvLogger->log((level), QLatin1String(mvLogFile), __LINE__, QLatin1String(mvFunction), (message));          \
     } while (false)

@@ -54,7 +54,9 @@ bool MvTimelinePresenterPrivate::isVirtualPlayheadOpen() const
 }
 
 MvTimelinePresenter::MvTimelinePresenter(QObject* parent, IMvTimeline* timeline)
-    : MvPresenter(parent), d_ptr(new MvTimelinePresenterPrivate(this, timeline)), m_emptyClipRect(0, 0, 0, 0)
+    : MvPresenter(parent)
+    , d_ptr(new MvTimelinePresenterPrivate(this, timeline))
+    , m_emptyClipRect(0, 0, 0, 0)
 {
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvTimelineGlobal.h"
 #include "MvPresenter.h"
+#include "MvTimelineGlobal.h"
 #include "MvVBLModelGlobal.h"
 
 #include <QColor>
@@ -36,7 +36,7 @@ public:
     // this library; the other fields are read by the host.
     struct MVTIMELINE_EXPORT MvTimelineViewConfig
     {
-        quint8 fixedTrackCountFirst = 1;  // picture tracks that always stay
+        quint8 fixedTrackCountFirst = 1; // picture tracks that always stay
         quint8 fixedTrackCountSecond = 1; // audio tracks that always stay
         quint8 sizeParam = 55;
         qint32 widthParam = 128;
@@ -54,7 +54,13 @@ public:
     };
 
     // The host gives the modes their meaning; the presenter only keeps the value.
-    enum MvTimelineModeType : qint32 { NormalMode = 0, TrimMode = 1, BladeMode = 2, HandMode = 3 };
+    enum MvTimelineModeType : qint32
+    {
+        NormalMode = 0,
+        TrimMode = 1,
+        BladeMode = 2,
+        HandMode = 3
+    };
     Q_ENUM(MvTimelineModeType)
 
     MvTimelinePresenter(QObject* parent, IMvTimeline* timeline);

@@ -26,12 +26,8 @@ void MvBaseLog::log(int level, const QString& file, int line, const QString& fun
     }
     const MvLogRecord record { file, line, function, level, message };
     if (toStderr) {
-        const QByteArray text = QStringLiteral("[%1] %2:%3 %4: %5\n")
-                                    .arg(level)
-                                    .arg(file)
-                                    .arg(line)
-                                    .arg(function, message)
-                                    .toLocal8Bit();
+        const QByteArray text
+            = QStringLiteral("[%1] %2:%3 %4: %5\n").arg(level).arg(file).arg(line).arg(function, message).toLocal8Bit();
         std::fputs(text.constData(), stderr);
     }
     for (const SinkEntry& entry : qAsConst(sinks))
@@ -81,7 +77,8 @@ void MvBaseLog::setStderrEnabled(bool enabled)
     m_stderrEnabled = enabled;
 }
 
-MvLogCapture::MvLogCapture(bool silenceStderr) : m_silenced(silenceStderr)
+MvLogCapture::MvLogCapture(bool silenceStderr)
+    : m_silenced(silenceStderr)
 {
     MvBaseLog* logger = MvBaseLog::defaultLogger();
     m_sinkId = logger->addSink([this](const MvLogRecord& record) {

@@ -24,7 +24,13 @@ class MVCORE_EXPORT MvBaseLog
 public:
     using Sink = std::function<void(const MvLogRecord&)>;
 
-    enum Level { Detail = 2, Note = 4, Warning = 8, Refusal = 16 };
+    enum Level
+    {
+        Detail = 2,
+        Note = 4,
+        Warning = 8,
+        Refusal = 16
+    };
 
     static MvBaseLog* defaultLogger();
 

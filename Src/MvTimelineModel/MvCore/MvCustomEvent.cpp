@@ -2,7 +2,9 @@
 
 #include "MvBaseLog.h"
 
-MvCustomEventImp::MvCustomEventImp(const QString& name, const QVariantList& values) : m_name(name), m_values(values)
+MvCustomEventImp::MvCustomEventImp(const QString& name, const QVariantList& values)
+    : m_name(name)
+    , m_values(values)
 {
 }
 
@@ -69,7 +71,9 @@ void MvCustomEventDispatcher::removeListener(MvCustomEventListener* listener)
 }
 
 MvCustomEventListener::MvCustomEventListener(QObject* parent, const QString& eventName, Handler handler)
-    : QObject(parent), m_eventName(eventName), m_handler(std::move(handler))
+    : QObject(parent)
+    , m_eventName(eventName)
+    , m_handler(std::move(handler))
 {
     MvCustomEventDispatcher::instance().addListener(this);
 }

@@ -2,7 +2,9 @@
 
 #include "MvBaseLog.h"
 
-MvElapsedTimer::MvElapsedTimer(const QString& what, qint64 thresholdMs) : m_what(what), m_thresholdMs(thresholdMs)
+MvElapsedTimer::MvElapsedTimer(const QString& what, qint64 thresholdMs)
+    : m_what(what)
+    , m_thresholdMs(thresholdMs)
 {
     m_timer.start();
 }

@@ -5,7 +5,10 @@
 
 IMvScene::~IMvScene() = default;
 
-MvPresenter::MvPresenter(QObject* parent) : QObject(parent) { }
+MvPresenter::MvPresenter(QObject* parent)
+    : QObject(parent)
+{
+}
 
 MvPresenter::~MvPresenter() = default;
 

@@ -1,14 +1,17 @@
 #pragma once
 
 // A closed range: both ends are part of it.
-template <typename T>
-struct MvRange
+template <typename T> struct MvRange
 {
     T first {};
     T last {};
 
     MvRange() = default;
-    MvRange(T minimum, T maximum) : first(minimum), last(maximum) { }
+    MvRange(T minimum, T maximum)
+        : first(minimum)
+        , last(maximum)
+    {
+    }
 
     T minimum() const { return first; }
     T maximum() const { return last; }

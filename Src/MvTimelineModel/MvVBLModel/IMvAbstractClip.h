@@ -1,8 +1,8 @@
 #pragma once
 
-#include "MvVBLModelGlobal.h"
 #include "IMvKeyFrameSelector.h"
 #include "MvRange.h"
+#include "MvVBLModelGlobal.h"
 
 #include <QImage>
 #include <QList>
@@ -53,7 +53,11 @@ class MVVBLMODEL_EXPORT IMvTransition : public IMvAbstractClip
 {
 public:
     // Where a transition sits on its owner clip.
-    enum Placement : quint16 { AtStart = 1, AtEnd = 2 };
+    enum Placement : quint16
+    {
+        AtStart = 1,
+        AtEnd = 2
+    };
 
     virtual IMvClip* ownerClip() const = 0;
     virtual int identifier() const = 0;
@@ -93,14 +97,14 @@ public:
 
     virtual IMvTimeline* ownerTimeline() const = 0;
     virtual IMvTrack* track() const = 0; // null once the clip is removed from the timeline
-    virtual int trackIndex() const = 0;  // -1 once the clip is removed
+    virtual int trackIndex() const = 0; // -1 once the clip is removed
     virtual int groupKind() const = 0;
-    virtual int rotation() const = 0;    // degrees, 0, 90, 180 or 270
+    virtual int rotation() const = 0; // degrees, 0, 90, 180 or 270
 
     virtual IMvTransitionList* transitionList() const = 0;
     virtual IMvMarkerList* clipMarkers() const = 0;
-    virtual IMvFreezeFrameList* freezeFrames() const = 0;       // null for clips without a picture
-    virtual IMvSmartKeyingNodes* smartKeyingNodes() const = 0;  // null when smart keying is off
+    virtual IMvFreezeFrameList* freezeFrames() const = 0; // null for clips without a picture
+    virtual IMvSmartKeyingNodes* smartKeyingNodes() const = 0; // null when smart keying is off
 
     // The clip that follows this one by motion tracking, or null.
     virtual IMvClip* motionTrackFollower() const = 0;
@@ -108,7 +112,9 @@ public:
 
     // Keyframes, in clip frames (0 is the clip's first frame), ascending, per side.
     virtual QList<qint64> keyFrames(bool audio) const = 0;
-    virtual bool addKeyFrame(bool audio, qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties) = 0;
+    virtual bool addKeyFrame(
+        bool audio, qint64 clipFrame, const QList<MVVBLMODEL::MvEffectPropertyBaseInfo>& properties)
+        = 0;
     virtual bool canCopyKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) const = 0;
     // Removes the selected keyframes of that side; false when none of them was on the clip.
     virtual bool removeKeyFrames(const IMvKeyFrameSelector::MvSelectData& selection, bool audio) = 0;

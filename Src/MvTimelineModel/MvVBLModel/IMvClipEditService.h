@@ -24,8 +24,8 @@ public:
     // Puts the copied clips on the timeline from frame on, as one undo step, and lists the new
     // clips. Answers flags: 8 a compound clip was left out because the timeline is (or lies inside)
     // its content, 4 one was left out because its content belongs to another project.
-    virtual int paste(qint64 frame, int trackIndex, QList<IMvClip*>& pastedClips, MVVBLMODEL::MvTrackType trackType,
-        int mode)
+    virtual int paste(
+        qint64 frame, int trackIndex, QList<IMvClip*>& pastedClips, MVVBLMODEL::MvTrackType trackType, int mode)
         = 0;
     // Puts the copied transitions onto every target clip, as one undo step, and lists them.
     virtual void pasteTransitions(QList<IMvTransition*>& pasted, QList<IMvClip*> targetClips) = 0;
@@ -34,7 +34,8 @@ public:
     // includeUngrouped adds the clip itself even when it is in no group.
     virtual void groupMembersOf(IMvClip* clip, QList<IMvClip*>& members, bool includeUngrouped) const = 0;
     // The members of every group the clips belong to, each once, in first-seen order.
-    virtual void collectGroupMembers(const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const = 0;
+    virtual void collectGroupMembers(
+        const QList<IMvClip*>& clips, QList<IMvClip*>& members, bool includeUngrouped) const = 0;
     // Dissolves every group any of these clips belongs to.
     virtual void ungroup(const QList<IMvClip*>& members) = 0;
     // One group of these clips (taken out of their earlier groups); fewer than two clips form none.

@@ -11,7 +11,12 @@ class IMvTimeline;
 class MVVBLMODEL_EXPORT IMvKeyFrameSelector
 {
 public:
-    enum Side { NoSide = 0, VideoSide = 1, AudioSide = 2 };
+    enum Side
+    {
+        NoSide = 0,
+        VideoSide = 1,
+        AudioSide = 2
+    };
 
     struct MvSelectData
     {

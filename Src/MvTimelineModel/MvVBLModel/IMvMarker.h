@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvVBLModelGlobal.h"
 #include "MvRange.h"
+#include "MvVBLModelGlobal.h"
 
 #include <QColor>
 #include <QList>

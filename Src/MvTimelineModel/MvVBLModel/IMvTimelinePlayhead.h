@@ -16,7 +16,8 @@ class MVVBLMODEL_EXPORT IMvTimelinePlayhead
 {
 public:
     // Notification kinds.
-    enum EventKind {
+    enum EventKind
+    {
         VisibleChanged = 0,
         EnabledChanged = 1,
         Moved = 2,

@@ -15,7 +15,8 @@ public:
 class MVVBLMODEL_EXPORT IMvTimelineRuler
 {
 public:
-    enum EventKind {
+    enum EventKind
+    {
         ZoomChanged = 0,
         CurrentFrameChanged = 1,
         TotalFramesChanged = 2,

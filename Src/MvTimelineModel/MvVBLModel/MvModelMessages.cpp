@@ -1,7 +1,9 @@
 #include "MvModelMessages.h"
 
 MvSeekMessage::MvSeekMessage(qint64 frame, bool accurate)
-    : MvMessage(MVVBLMODEL::MessageId::Seek), m_frame(frame), m_accurate(accurate)
+    : MvMessage(MVVBLMODEL::MessageId::Seek)
+    , m_frame(frame)
+    , m_accurate(accurate)
 {
 }
 
@@ -10,7 +12,10 @@ const char* MvSeekMessage::typeName() const
     return "MvSeekMessage";
 }
 
-MvSeekAfterPauseMessage::MvSeekAfterPauseMessage() : MvMessage(MVVBLMODEL::MessageId::SeekAfterPause) { }
+MvSeekAfterPauseMessage::MvSeekAfterPauseMessage()
+    : MvMessage(MVVBLMODEL::MessageId::SeekAfterPause)
+{
+}
 
 const char* MvSeekAfterPauseMessage::typeName() const
 {
@@ -19,7 +24,9 @@ const char* MvSeekAfterPauseMessage::typeName() const
 
 MvPropertyPanelShowMessage2::MvPropertyPanelShowMessage2(
     MVVBLMODEL::MvClipType clipType, MVVBLMODEL::MvPropertyType panelType)
-    : MvMessage(MVVBLMODEL::MessageId::ShowPropertyPanel), m_clipType(clipType), m_panelType(panelType)
+    : MvMessage(MVVBLMODEL::MessageId::ShowPropertyPanel)
+    , m_clipType(clipType)
+    , m_panelType(panelType)
 {
 }
 

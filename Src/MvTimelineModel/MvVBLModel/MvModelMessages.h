@@ -1,8 +1,8 @@
 #pragma once
 
-#include "MvVBLModelGlobal.h"
-#include "MvMessage.h"
 #include "IMvResourceInfo.h"
+#include "MvMessage.h"
+#include "MvVBLModelGlobal.h"
 
 #include <QList>
 

@@ -178,23 +178,23 @@ struct MvEffectPropertyBaseInfo
 // Identifiers of the messages the timeline sends to its scene.
 namespace MessageId {
 constexpr int GroupQuestionBeforeSplit = 1010; // MvDataMessage; answer: QVariantList{bool proceed, bool ungroup}
-constexpr int SwitchPlayerToTimeline = 7005;   // MvDataMessage carrying the IMvTimeline*
-constexpr int AfterEffectPaste = 7009;         // bare id, sent after every effect paste
-constexpr int PausePlayer = 7012;              // bare id
-constexpr int StopPlayer = 7014;               // MvMessage
-constexpr int IsPlayerPlaying = 7033;          // MvQueryMessage
-constexpr int PausePlayerWithSync = 7036;      // bare id
-constexpr int Seek = 7040;                     // MvSeekMessage
-constexpr int SeekAfterPause = 7041;           // MvSeekAfterPauseMessage
-constexpr int HidePropertyPanel = 9006;        // MvMessage
-constexpr int ShowPropertyPanelPage = 9007;    // MvDataMessage carrying the page (int); -1: the selection's page
+constexpr int SwitchPlayerToTimeline = 7005; // MvDataMessage carrying the IMvTimeline*
+constexpr int AfterEffectPaste = 7009; // bare id, sent after every effect paste
+constexpr int PausePlayer = 7012; // bare id
+constexpr int StopPlayer = 7014; // MvMessage
+constexpr int IsPlayerPlaying = 7033; // MvQueryMessage
+constexpr int PausePlayerWithSync = 7036; // bare id
+constexpr int Seek = 7040; // MvSeekMessage
+constexpr int SeekAfterPause = 7041; // MvSeekAfterPauseMessage
+constexpr int HidePropertyPanel = 9006; // MvMessage
+constexpr int ShowPropertyPanelPage = 9007; // MvDataMessage carrying the page (int); -1: the selection's page
 constexpr int ShowAdvancedSubtitleEditor = 9017; // MvDataMessage {true, arg}
-constexpr int ShowAdvancedTextEditor = 9018;     // MvDataMessage {true, arg}
-constexpr int ShowAdvancedColor = 9019;          // MvDataMessage carrying true
-constexpr int ShowAdvancedTitleEditor = 9020;    // MvDataMessage {true, arg}
-constexpr int EffectsDeleted = 9030;             // MvMessage
-constexpr int EffectsPasted = 9031;              // bare id
-constexpr int ShowPropertyPanel = 9040;        // MvPropertyPanelShowMessage2
+constexpr int ShowAdvancedTextEditor = 9018; // MvDataMessage {true, arg}
+constexpr int ShowAdvancedColor = 9019; // MvDataMessage carrying true
+constexpr int ShowAdvancedTitleEditor = 9020; // MvDataMessage {true, arg}
+constexpr int EffectsDeleted = 9030; // MvMessage
+constexpr int EffectsPasted = 9031; // bare id
+constexpr int ShowPropertyPanel = 9040; // MvPropertyPanelShowMessage2
 // Media insertion (MvModelMessages.h): each carries its media items or clips both ways.
 constexpr int DownloadMediaItems = 3003; // MvDownloadMediaItemMessage
 constexpr int SelectStockResolution = 3016; // MvSelectResolutionMediaItemMessage
@@ -203,10 +203,11 @@ constexpr int MatchProjectSettings = 3018; // MvMatchProjMediaItemMessage
 constexpr int AddMediaResponse = 3019; // MvTimelineAddMediaResponseMessage
 constexpr int ScrollToTrack = 3020; // MvTimelineScrollToTrackMessage
 // Transitions and effects.
-constexpr int AudioEffectOverride = 3030; // MvAudioEffectOverrideMessage: answer true to replace the clip's audio effect
+constexpr int AudioEffectOverride
+    = 3030; // MvAudioEffectOverrideMessage: answer true to replace the clip's audio effect
 // Library resources and composed texts.
-constexpr int MediaLibraryFindSimilar = 9061;    // MvMediaLibraryFindSimilarMessage
-constexpr int MediaEditorSelectClip = 9062;      // MvMediaEditorSelectClipMessage
+constexpr int MediaLibraryFindSimilar = 9061; // MvMediaLibraryFindSimilarMessage
+constexpr int MediaEditorSelectClip = 9062; // MvMediaEditorSelectClipMessage
 }
 
 } // namespace MVVBLMODEL

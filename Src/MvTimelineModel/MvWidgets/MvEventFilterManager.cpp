@@ -2,11 +2,19 @@
 
 #include "IMvEventFilter.h"
 
-IMvEventFilter::IMvEventFilter() : m_pressed(false), m_movedSincePress(false) { }
+IMvEventFilter::IMvEventFilter()
+    : m_pressed(false)
+    , m_movedSincePress(false)
+{
+}
 
 IMvEventFilter::~IMvEventFilter() = default;
 
-MvEventFilterManager::MvEventFilterManager(QObject* parent) : QObject(parent), m_cursor(Qt::ArrowCursor) { }
+MvEventFilterManager::MvEventFilterManager(QObject* parent)
+    : QObject(parent)
+    , m_cursor(Qt::ArrowCursor)
+{
+}
 
 MvEventFilterManager::~MvEventFilterManager() = default;
 

@@ -10,7 +10,10 @@
 class MVWIDGETS_EXPORT MvSkinColor
 {
 public:
-    explicit MvSkinColor(const QString& name) : m_name(name) { }
+    explicit MvSkinColor(const QString& name)
+        : m_name(name)
+    {
+    }
 
     QString name() const { return m_name; }
 

@@ -3,7 +3,10 @@
 #include <QPainter>
 #include <QStyleOption>
 
-MvWidget::MvWidget(QWidget* parent, Qt::WindowFlags flags) : QWidget(parent, flags) { }
+MvWidget::MvWidget(QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+{
+}
 
 MvWidget::~MvWidget() = default;
 

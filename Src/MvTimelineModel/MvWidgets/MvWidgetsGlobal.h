@@ -10,5 +10,11 @@
 
 namespace MVWIDGETS {
 // The look of an interactive item; colour and image tables are keyed by it.
-enum MvWidgetStyleStatus : int { Normal = 1, Hover = 2, Pressed = 3, Disabled = 4 };
+enum MvWidgetStyleStatus : int
+{
+    Normal = 1,
+    Hover = 2,
+    Pressed = 3,
+    Disabled = 4
+};
 }

@@ -8,10 +8,10 @@
 #include "MvMemoryKeyFrames.h"
 #include "MvMemoryPlayhead.h"
 #include "MvMemoryRenderService.h"
-#include "MvRulerModel.h"
 #include "MvMemorySelection.h"
 #include "MvMemoryTimeline_p.h"
 #include "MvMemoryUndoService.h"
+#include "MvRulerModel.h"
 
 #include <QHash>
 
