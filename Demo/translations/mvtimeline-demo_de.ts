@@ -8,7 +8,7 @@
         <translation>Das eingebaute Szenario abspielen, Bildschirmfotos und Protokoll speichern, dann beenden.</translation>
     </message>
     <message>
-        <source>Folder for the scenario's files.</source>
+        <source>Folder for the scenario&apos;s files.</source>
         <translation>Ordner für die Dateien des Szenarios.</translation>
     </message>
     <message>
@@ -16,11 +16,11 @@
         <translation>ordner</translation>
     </message>
     <message>
-        <source>Print the library's detail and note records too, not only its warnings and refusals.</source>
+        <source>Print the library&apos;s detail and note records too, not only its warnings and refusals.</source>
         <translation>Auch die Detail- und Hinweiseinträge der Bibliothek ausgeben, nicht nur ihre Warnungen und Ablehnungen.</translation>
     </message>
     <message>
-        <source>Show the demo in this language (for instance de or fr) instead of the system's.</source>
+        <source>Show the demo in this language (for instance de or fr) instead of the system&apos;s.</source>
         <translation>Die Demo in dieser Sprache zeigen (etwa de oder fr) statt in der des Systems.</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
         <translation>die Auflösung eines VCG-Mediums wählen</translation>
     </message>
     <message>
-        <source>offer the media's settings to the project</source>
+        <source>offer the media&apos;s settings to the project</source>
         <translation>dem Projekt die Einstellungen des Mediums anbieten</translation>
     </message>
     <message>
@@ -189,7 +189,7 @@
         <translation>Bibliothek</translation>
     </message>
     <message>
-        <source>Find Similar asks the media library for resources like the one a clip was made from. The library's answers would be listed here; the requests are:</source>
+        <source>Find Similar asks the media library for resources like the one a clip was made from. The library&apos;s answers would be listed here; the requests are:</source>
         <translation>„Ähnliche suchen“ fragt die Medienbibliothek nach Ressourcen wie der, aus der ein Clip entstand. Die Antworten der Bibliothek stünden hier; die Anfragen sind:</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Einen Clip mit Ton auswählen.</translation>
     </message>
     <message>
-        <source>Colour grading of “%1”: the editor's colour wheels and curves would open here.</source>
+        <source>Colour grading of “%1”: the editor&apos;s colour wheels and curves would open here.</source>
         <translation>Farbkorrektur von „%1“: Farbräder und Kurven des Editors würden sich hier öffnen.</translation>
     </message>
     <message>
@@ -638,7 +638,7 @@
         <translation>„%1“ ist ein eigenes Medium: Die Bibliothek findet nur Ressourcen wie ihre eigenen.</translation>
     </message>
     <message>
-        <source>The library's similarity search does not know “%1”.</source>
+        <source>The library&apos;s similarity search does not know “%1”.</source>
         <translation>Die Ähnlichkeitssuche der Bibliothek kennt „%1“ nicht.</translation>
     </message>
     <message>
@@ -714,7 +714,7 @@
         <translation>Die Clips beginnen schon am Anfang der Zeitleiste.</translation>
     </message>
     <message>
-        <source>There is no track of the clips' kind there.</source>
+        <source>There is no track of the clips&apos; kind there.</source>
         <translation>Dort gibt es keine Spur für diese Art von Clips.</translation>
     </message>
     <message>
@@ -810,7 +810,7 @@
         <translation>Zuerst einen geremixten Musikclip auswählen.</translation>
     </message>
     <message>
-        <source>"%1" has no remix.</source>
+        <source>&quot;%1&quot; has no remix.</source>
         <translation>„%1“ hat keinen Remix.</translation>
     </message>
     <message>
@@ -1021,7 +1021,7 @@
         <translation> Frames</translation>
     </message>
     <message>
-        <source>the item's own</source>
+        <source>the item&apos;s own</source>
         <translation>die eigene des Elements</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@
         <translation>Zusammengesetzten Clip &amp;öffnen</translation>
     </message>
     <message>
-        <source>Open Another &amp;Project's Timeline</source>
+        <source>Open Another &amp;Project&apos;s Timeline</source>
         <translation>Zeitleiste eines anderen &amp;Projekts öffnen</translation>
     </message>
     <message>

@@ -8,7 +8,7 @@
         <translation>Jouer le scénario intégré, enregistrer les captures d’écran et le journal, puis quitter.</translation>
     </message>
     <message>
-        <source>Folder for the scenario's files.</source>
+        <source>Folder for the scenario&apos;s files.</source>
         <translation>Dossier des fichiers du scénario.</translation>
     </message>
     <message>
@@ -16,11 +16,11 @@
         <translation>dossier</translation>
     </message>
     <message>
-        <source>Print the library's detail and note records too, not only its warnings and refusals.</source>
+        <source>Print the library&apos;s detail and note records too, not only its warnings and refusals.</source>
         <translation>Afficher aussi les entrées de détail et de note de la bibliothèque, pas seulement ses avertissements et refus.</translation>
     </message>
     <message>
-        <source>Show the demo in this language (for instance de or fr) instead of the system's.</source>
+        <source>Show the demo in this language (for instance de or fr) instead of the system&apos;s.</source>
         <translation>Afficher la démo dans cette langue (par exemple de ou fr) au lieu de celle du système.</translation>
     </message>
     <message>
@@ -142,7 +142,7 @@
         <translation>choisir la résolution d’un média VCG</translation>
     </message>
     <message>
-        <source>offer the media's settings to the project</source>
+        <source>offer the media&apos;s settings to the project</source>
         <translation>proposer au projet les réglages du média</translation>
     </message>
     <message>
@@ -189,7 +189,7 @@
         <translation>Bibliothèque</translation>
     </message>
     <message>
-        <source>Find Similar asks the media library for resources like the one a clip was made from. The library's answers would be listed here; the requests are:</source>
+        <source>Find Similar asks the media library for resources like the one a clip was made from. The library&apos;s answers would be listed here; the requests are:</source>
         <translation>« Rechercher des similaires » demande à la médiathèque des ressources semblables à celle dont un clip est issu. Ses réponses s’afficheraient ici ; les demandes sont :</translation>
     </message>
     <message>
@@ -408,7 +408,7 @@
         <translation>Sélectionnez un clip avec du son.</translation>
     </message>
     <message>
-        <source>Colour grading of “%1”: the editor's colour wheels and curves would open here.</source>
+        <source>Colour grading of “%1”: the editor&apos;s colour wheels and curves would open here.</source>
         <translation>Étalonnage de « %1 » : les roues chromatiques et les courbes de l’éditeur s’ouvriraient ici.</translation>
     </message>
     <message>
@@ -638,7 +638,7 @@
         <translation>« %1 » est votre propre média : la bibliothèque ne trouve que des ressources semblables aux siennes.</translation>
     </message>
     <message>
-        <source>The library's similarity search does not know “%1”.</source>
+        <source>The library&apos;s similarity search does not know “%1”.</source>
         <translation>La recherche de similarité de la bibliothèque ne connaît pas « %1 ».</translation>
     </message>
     <message>
@@ -714,7 +714,7 @@
         <translation>Les clips commencent déjà au début de la timeline.</translation>
     </message>
     <message>
-        <source>There is no track of the clips' kind there.</source>
+        <source>There is no track of the clips&apos; kind there.</source>
         <translation>Il n’y a pas de piste du type de ces clips à cet endroit.</translation>
     </message>
     <message>
@@ -810,7 +810,7 @@
         <translation>Sélectionnez d’abord un clip musical remixé.</translation>
     </message>
     <message>
-        <source>"%1" has no remix.</source>
+        <source>&quot;%1&quot; has no remix.</source>
         <translation>« %1 » n’a pas de remix.</translation>
     </message>
     <message>
@@ -1021,7 +1021,7 @@
         <translation> images</translation>
     </message>
     <message>
-        <source>the item's own</source>
+        <source>the item&apos;s own</source>
         <translation>celle de l’élément</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@
         <translation>&amp;Ouvrir le clip composé</translation>
     </message>
     <message>
-        <source>Open Another &amp;Project's Timeline</source>
+        <source>Open Another &amp;Project&apos;s Timeline</source>
         <translation>Ouvrir la timeline d’un autre &amp;projet</translation>
     </message>
     <message>
