@@ -5,6 +5,7 @@
 #include "Memory/MvMemoryTimeline.h"
 #include "Memory/MvMemoryUndoService.h"
 #include "MvClipHelpers.h"
+#include "MvEditFixture.h"
 
 #include <QtTest>
 
@@ -203,19 +204,11 @@ void tst_MvMemoryTracks::clearEmptyTracks()
     QFETCH(QString, rows);
     QFETCH(QString, after);
 
-    const QStringList spec = rows.split(QLatin1Char(' '));
     std::unique_ptr<MvMemoryTimeline> timeline = makeTimeline(QString());
-    for (const QString& row : spec)
-        timeline->addTrack(row.at(0) == QLatin1Char('A') ? TrackType_Audio : TrackType_Picture);
+    const QStringList words = mvBuildRows(*timeline, rows);
     QHash<IMvTrack*, QString> names;
-    for (int row = 0; row < spec.size(); ++row) {
-        IMvTrack* track = timeline->trackAt(row);
-        names.insert(track, spec.at(row));
-        if (spec.at(row).at(1) == QLatin1Char('c'))
-            timeline->addClip(
-                row, track->type() == TrackType_Audio ? ClipType_Audio : ClipType_Video, 0, 9, QStringLiteral("clip"));
-        track->setLocked(spec.at(row).at(1) == QLatin1Char('l'));
-    }
+    for (int row = 0; row < words.size(); ++row)
+        names.insert(timeline->trackAt(row), words.at(row));
     timeline->undoService()->clear();
     const QString before = timeline->stateText();
 

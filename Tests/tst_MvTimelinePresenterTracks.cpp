@@ -356,14 +356,7 @@ void tst_MvTimelinePresenterTracks::canClearEmptyTracks()
     QFETCH(bool, can);
 
     RowWatchingTimeline timeline;
-    const QStringList spec = rows.split(QLatin1Char(' '));
-    for (const QString& row : spec)
-        timeline.addTrack(row.at(0) == QLatin1Char('A') ? TrackType_Audio : TrackType_Picture);
-    for (int row = 0; row < spec.size(); ++row) {
-        if (spec.at(row).at(1) == QLatin1Char('c'))
-            timeline.addClip(row, spec.at(row).at(0) == QLatin1Char('A') ? ClipType_Audio : ClipType_Video, 0, 9,
-                QStringLiteral("clip"));
-    }
+    mvBuildRows(timeline, rows);
     MvTimelinePresenter presenter(nullptr, &timeline);
     if (clearFixed)
         presenter.config()->clearFixedTrack();

@@ -25,6 +25,23 @@ inline QString mvStateDiff(const QString& actual, const QString& expected)
     return QString();
 }
 
+// Rows from a compact layout, one word per row: its kind (P picture, A audio) and what it holds
+// (e empty, c a clip over frames 0 to 9, l empty and locked), "Pc Pe Al". Returns the words by row.
+inline QStringList mvBuildRows(MvMemoryTimeline& timeline, const QString& layout)
+{
+    const QStringList rows = layout.split(QLatin1Char(' '));
+    for (const QString& row : rows)
+        timeline.addTrack(row.at(0) == QLatin1Char('A') ? MVVBLMODEL::TrackType_Audio : MVVBLMODEL::TrackType_Picture);
+    for (int index = 0; index < rows.size(); ++index) {
+        const bool audio = rows.at(index).at(0) == QLatin1Char('A');
+        if (rows.at(index).at(1) == QLatin1Char('c'))
+            timeline.addClip(
+                index, audio ? MVVBLMODEL::ClipType_Audio : MVVBLMODEL::ClipType_Video, 0, 9, QStringLiteral("clip"));
+        timeline.trackAt(index)->setLocked(rows.at(index).at(1) == QLatin1Char('l'));
+    }
+    return rows;
+}
+
 // A presenter over a project with picture rows 0, 1 and audio rows 2, 3; model edits and scene
 // messages meet in one journal.
 template <typename Timeline = MvMemoryTimeline, typename Presenter = MvTimelinePresenter> struct MvEditFixture
